@@ -1,0 +1,20 @@
+#include "core/screen.h"
+
+Screen blankScreen()
+{
+    Screen blank;
+    blank.redrawBoard = [] {};
+    blank.redrawCard = [](int) {};
+    blank.showTitle = [] {};
+    blank.showControls = [] {};
+    blank.showTable = [] {};
+    blank.measureLabel = [](const QString&, double&, double&) {};
+    blank.openCard = [](int) {};
+    blank.cardDropped = [](int) {};
+    blank.openTeacherOptions = [] {};
+    blank.command = [](const QString&) {};
+    blank.setRefresh = [](const QString&) {};
+    return blank;
+}
+
+Screen screen = blankScreen();

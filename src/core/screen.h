@@ -1,0 +1,34 @@
+// What routines ask of the windows above them. Form1 and start-up fill these in; tests record the calls.
+#pragma once
+
+#include <QString>
+
+#include <functional>
+
+struct Screen {
+    /// Everything on the board may have changed.
+    std::function<void()> redrawBoard;
+    /// One card moved or changed its face: paints where it was and where it is.
+    std::function<void(int card)> redrawCard;
+    /// The window's title is session.title now.
+    std::function<void()> showTitle;
+    /// The controls of the main window take the states in the session (modes, headings, check boxes, panels).
+    std::function<void()> showControls;
+    /// Lays out and fills the table from the session.
+    std::function<void()> showTable;
+    /// Tells the width and height of a caption in the board's font, in pixels.
+    std::function<void(const QString& text, double& width, double& height)> measureLabel;
+
+    // Hooks: what a lower floor asks of a higher one.
+    std::function<void(int card)> openCard;
+    std::function<void(int card)> cardDropped;
+    std::function<void()> openTeacherOptions;
+    std::function<void(const QString& word)> command;
+    std::function<void(const QString& word)> setRefresh;
+};
+
+extern Screen screen;
+
+/// A screen on which every call does nothing: the state before the main window is made, and named places
+/// whose window isn't there.
+Screen blankScreen();

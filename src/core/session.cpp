@@ -1,0 +1,52 @@
+#include "core/session.h"
+
+#include <algorithm>
+#include <numeric>
+
+Session session;
+
+CardStack::CardStack() { std::iota(order.begin(), order.end(), 0); }
+
+void CardStack::bringToFront(int card)
+{
+    const auto at = std::find(order.begin(), order.end(), card);
+    if (at != order.end())
+        std::rotate(at, at + 1, order.end());
+}
+
+void CardStack::sendToBack(int card)
+{
+    const auto at = std::find(order.begin(), order.end(), card);
+    if (at != order.end())
+        std::rotate(order.begin(), at, at + 1);
+}
+
+void resetCardTable()
+{
+    for (int i = 1; i <= session.maxCards; ++i) {
+        session.cardValue[i] = {};
+        session.cardId[i].clear();
+        CardImage& card = session.box[i];
+        card.picture = {};
+        card.visible = false;
+        card.width = session.cardWidth;
+        card.height = session.cardHeight;
+    }
+    session.box[0].width = session.cardWidth;
+    session.box[0].height = session.cardHeight;
+}
+
+void resetFieldTable()
+{
+    for (int f = 1; f <= session.maxFields; ++f) {
+        session.fieldName[f] = QStringLiteral("fieldname") + QString::number(f);
+        session.fieldType[f] = QStringLiteral("Abc");
+        session.fieldUseList[f] = false;
+    }
+}
+
+void clearCardValues(int card)
+{
+    for (int f = 1; f <= session.maxFields; ++f)
+        session.cardValue[card][f].clear();
+}

@@ -1,0 +1,56 @@
+// Run-time errors with a number and a description, and the ways in which a routine may answer them.
+#pragma once
+
+#include <QString>
+
+#include <exception>
+#include <functional>
+#include <initializer_list>
+
+// The numbers that the system knows.
+inline constexpr int overflow = 6;
+inline constexpr int outOfRange = 9;
+inline constexpr int divisionByZero = 11;
+inline constexpr int typeMismatch = 13;
+inline constexpr int fileNotFound = 53;
+inline constexpr int deviceError = 57;
+inline constexpr int diskFull = 61;
+inline constexpr int pastEndOfFile = 62;
+inline constexpr int deviceUnavailable = 68;
+inline constexpr int permissionDenied = 70;
+inline constexpr int pathAccessError = 75;
+inline constexpr int pathNotFound = 76;
+inline constexpr int invalidProperty = 380;
+inline constexpr int invalidPicture = 481;
+
+/// An error of the running operation. Its description is the text that the pupil is shown.
+class RuntimeError : public std::exception {
+public:
+    explicit RuntimeError(int number);
+
+    int number() const { return code; }
+    QString description() const;
+    const char* what() const noexcept override { return "run-time error"; }
+
+private:
+    int code;
+};
+
+/// The description of whatever exception is being handled; to be called from a catch block only.
+QString currentErrorDescription();
+
+/// Shows a failure as all routines do: a beep, then a box with a stop icon, titled "Error".
+void showErrorBox(const QString& description);
+
+/// Runs `routine`. An error ends it with the state reached so far and is shown in the error box.
+/// True when no error came.
+bool withErrorBox(const std::function<void()>& routine);
+
+using Steps = std::initializer_list<std::function<void()>>;
+
+/// Runs every step, passing over the ones that fail; `failed`, when given, is called after each failure.
+void ignoringErrors(Steps steps, const std::function<void()>& failed = {});
+
+/// The entry of everything that the window system calls: no exception gets back into it. What nobody answered
+/// shows the error box and ends the operation, and `session`-wide work goes on.
+void guarded(const std::function<void()>& handler);

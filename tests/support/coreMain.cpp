@@ -1,0 +1,12 @@
+// Tests of the core library: no widget is ever made, though measuring text wants Qt's fonts.
+#include <gmock/gmock.h>
+
+#include <QGuiApplication>
+
+int main(int argc, char** argv)
+{
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    testing::InitGoogleMock(&argc, argv);
+    const QGuiApplication application(argc, argv);
+    return RUN_ALL_TESTS();
+}

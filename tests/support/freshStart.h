@@ -1,0 +1,49 @@
+// Where every test begins: a new session, no forms, empty caches, and seams that record instead of reaching
+// out.
+#pragma once
+
+#include "platform/desktop.h"
+
+#include <gmock/gmock.h>
+
+#include <QStringList>
+#include <QTemporaryDir>
+
+#include <deque>
+#include <functional>
+#include <vector>
+
+class QDialog;
+
+/// So that a failed comparison tells the text.
+inline void PrintTo(const QString& text, std::ostream* out) { *out << '"' << text.toStdString() << '"'; }
+
+/// What was said and asked through the seams, and the answers prepared for it.
+struct Recorded {
+    int beeps = 0;
+    int rounds = 0;       // of yield
+    QStringList messages; // "title|text"
+    QStringList played;   // paths of sounds
+    QStringList started;  // programs and documents, with their arguments after blanks
+    std::vector<int> redrawnCards;
+
+    std::deque<bool> answers;               // to ask(); an unexpected question fails the test and is a No
+    std::deque<QString> chosen;             // to chooseFolder() and chooseFile()
+    std::deque<double> randoms;             // then 0.5 for ever
+    std::function<void(int round)> inYield; // acts in the middle of a flight
+    std::deque<std::function<void(QDialog&)>> dialogSteps; // one for each modal dialog, in order
+};
+
+extern Recorded recorded;
+
+/// Resets everything. The program's folder is a new, empty, temporary one.
+void freshStart();
+
+/// The temporary folder of the running test, with a separator at its end.
+QString testFolder();
+
+class Fresh : public testing::Test {
+protected:
+    Fresh() { freshStart(); }
+    ~Fresh() override;
+};
