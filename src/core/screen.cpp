@@ -9,6 +9,8 @@ Screen blankScreen()
     blank.showControls = [] {};
     blank.showTable = [] {};
     blank.measureLabel = [](const QString&, double&, double&) {};
+    blank.showSpeedWindow = [] {};
+    blank.unloadSpeedWindow = [] {};
     blank.openCard = [](int) {};
     blank.cardDropped = [](int) {};
     blank.openTeacherOptions = [] {};

@@ -19,6 +19,10 @@ struct Screen {
     /// Tells the width and height of a caption in the board's font, in pixels.
     std::function<void(const QString& text, double& width, double& height)> measureLabel;
 
+    /// The floating window that sets the pace of a run. Unloading it stops the run.
+    std::function<void()> showSpeedWindow;
+    std::function<void()> unloadSpeedWindow;
+
     // Hooks: what a lower floor asks of a higher one.
     std::function<void(int card)> openCard;
     std::function<void(int card)> cardDropped;

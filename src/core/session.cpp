@@ -5,6 +5,13 @@
 
 Session session;
 
+Session::Session()
+{
+    box[0].left = 15; // the corner from which every tool lays cards out
+    box[0].top = 40;
+    andOr[0] = andOr[1] = QStringLiteral(" ");
+}
+
 CardStack::CardStack() { std::iota(order.begin(), order.end(), 0); }
 
 void CardStack::bringToFront(int card)

@@ -81,10 +81,20 @@ private:
     std::array<int, lastCard + 1> order;
 };
 
+/// One condition of the find dialog: field `fieldTag` (a number as text) compared by `word` with `value`.
+struct FindRow {
+    QString fieldTag = QStringLiteral("1");
+    QString field; // its name as the dialog shows it; empty until the pupil picks one
+    QString word;
+    QString value;
+};
+
 using CardFields = Table<QString, lastField>;
 using FieldAnswers = Table<QString, 12>;
 
 struct Session {
+    Session();
+
     // Fields
     int numFields = 3;
     int maxFields = 12;
@@ -143,6 +153,11 @@ struct Session {
     int numTallies = 0;
     double savedSpeed = 0;
     bool animationStopped = false;
+    int speedPosition = 5; // of the speed window's slider, 1..9
+    bool runPaused = false;
+    Table<FindRow, 2> findRow;
+    Table<QString, 1> andOr; // " ", "and" or "or" between the rows
+    bool vennTick = false;
     int graphKind = 0;
     Table<int, 2> graphAxisField;
     double graphMaxValue = 0;

@@ -33,6 +33,8 @@ struct Desktop {
 
     /// Lets the window system handle what has happened meanwhile; one paint of all that was marked for it.
     std::function<void()> yield;
+    /// The same, but sleeps until something happens: for a run that the pupil has paused.
+    std::function<void()> waitForEvents;
     /// A fresh random number, 0 up to but not including 1.
     std::function<double()> random;
     std::function<QDate()> today;

@@ -51,6 +51,7 @@ Desktop recordingDesktop()
         if (recorded.inYield)
             recorded.inYield(recorded.rounds);
     };
+    d.waitForEvents = d.yield;
     d.random = [] { return nextOf(recorded.randoms, 0.5); };
     d.today = [] { return QDate(2026, 3, 9); };
     d.openDocument = [](const QString& path) { recorded.started.append(path); };
