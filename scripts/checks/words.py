@@ -1,0 +1,28 @@
+"""The project speaks about itself only: no talk about how the work was ordered, no path of one machine."""
+
+import re
+
+BINARY = (".png", ".jpg", ".gif", ".ico", ".bmp", ".wmf", ".wav", ".snd", ".rar", ".pdf", ".ttf")
+
+# Written so that this table does not find itself.
+WORDS = [
+    (r"\bspeci[f]ication\b", "say what the program does and why"),
+    (r"\bspec\.m[d]\b", "say what the program does and why"),
+    (r"\bParts? \d+\.\d", "name the file or the routine"),
+    (r"\bissue #?\d+", "say what the change is for"),
+    (r"\.\./share[d]\b", "nothing lies outside the project"),
+    (r"(?<![\w.])/(work|home|root|Users)[/](?!\.)\w", "no absolute path of one machine"),
+    (r"(?<![\w.])/tm[p]/\w", "use a temporary folder of the moment"),
+    (r"\b(TO[D]O|FIXM[E]|XX[X])\b", "do it, or leave it out"),
+]
+
+
+def faults(tree):
+    for path in tree.files():
+        if path.endswith(BINARY) or "\ufffd" in tree.text(path):
+            continue
+        for number, line in tree.numbered_lines(path):
+            for pattern, advice in WORDS:
+                match = re.search(pattern, line, re.IGNORECASE if pattern.startswith(r"\bspeci") else 0)
+                if match:
+                    yield f'{path}:{number}: "{match[0]}": {advice}'
