@@ -1,0 +1,123 @@
+#include "platform/wavePlayer.h"
+
+#include "platform/errors.h"
+
+#include <QAudioDevice>
+#include <QAudioSink>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QMediaDevices>
+#include <QThread>
+
+namespace {
+
+constexpr qint64 buffered = 1'000'000;  // microseconds handed over ahead: a busy window doesn't stutter
+constexpr int afterTheLastSample = 100; // milliseconds
+constexpr int settling = 100;           // milliseconds: Qt 6.4 crashes when left sooner after a stop
+std::unique_ptr<WavePlayer> filePlayer;
+QElapsedTimer sinceStop; // invalid while no sound was used
+
+QAudioFormat formatOf(const Wave& wave)
+{
+    QAudioFormat format;
+    format.setSampleRate(wave.sampleRate);
+    format.setChannelCount(wave.channels);
+    format.setSampleFormat(wave.bits == 8 ? QAudioFormat::UInt8 : QAudioFormat::Int16);
+    return format;
+}
+
+} // namespace
+
+WavePlayer::WavePlayer()
+{
+    ending.setSingleShot(true);
+    connect(&ending, &QTimer::timeout, this, [this] {
+        stop();
+        Q_EMIT finished();
+    });
+}
+
+WavePlayer::~WavePlayer() { stop(); }
+
+bool WavePlayer::play(const Wave& wave)
+{
+    stop();
+    const QAudioDevice device = QMediaDevices::defaultAudioOutput();
+    if (device.isNull())
+        return false;
+    const QAudioFormat format = formatOf(wave);
+    samples.setData(wave.samples);
+    samples.open(QIODevice::ReadOnly);
+    sink = std::make_unique<QAudioSink>(device, format);
+    sink->setBufferSize(format.bytesForDuration(buffered));
+    connect(sink.get(), &QAudioSink::stateChanged, this, &WavePlayer::followState);
+    sink->start(&samples);
+    if (sink->error() == QAudio::NoError)
+        return true;
+    stop();
+    return false;
+}
+
+/// Idle means that the last sample was handed over only when none is left; else the reading was late.
+void WavePlayer::followState()
+{
+    if (sink->state() == QAudio::IdleState && samples.atEnd())
+        ending.start(int(sink->format().durationForBytes(int(sink->bufferSize())) / 1000) +
+                     afterTheLastSample);
+    else if (sink->state() == QAudio::StoppedState && sink->error() != QAudio::NoError)
+        ending.start(0);
+}
+
+void WavePlayer::pause()
+{
+    if (!sink)
+        return;
+    endingLeft = ending.isActive() ? ending.remainingTime() : -1;
+    ending.stop();
+    sink->suspend();
+}
+
+void WavePlayer::resume()
+{
+    if (!sink)
+        return;
+    sink->resume();
+    if (endingLeft >= 0)
+        ending.start(endingLeft);
+}
+
+/// An active sink must be stopped before it goes: Qt 6.4 crashes otherwise.
+void WavePlayer::stop()
+{
+    ending.stop();
+    endingLeft = -1;
+    if (sink) {
+        sink->disconnect(this);
+        sink->stop();
+        sink.reset();
+        noteSoundStopped();
+    }
+    samples.close();
+}
+
+void playWaveFile(const QString& path)
+{
+    ignoringErrors({[&] {
+        QFile file(path);
+        if (!file.open(QIODevice::ReadOnly))
+            return;
+        const Wave wave = readWave(file.readAll());
+        if (!filePlayer)
+            filePlayer = std::make_unique<WavePlayer>();
+        filePlayer->play(wave);
+    }});
+}
+
+void leaveSound()
+{
+    filePlayer.reset();
+    if (sinceStop.isValid() && !sinceStop.hasExpired(settling))
+        QThread::msleep(ulong(settling - sinceStop.elapsed()));
+}
+
+void noteSoundStopped() { sinceStop.start(); }
