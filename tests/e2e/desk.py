@@ -1,0 +1,166 @@
+"""A private desktop for one tour: display, window manager, message bus, assistive technology, sound server and home.
+
+Nothing of the machine's own desktop is touched, so tours run side by side; everything ends with the tour, even when
+the tour itself is killed."""
+
+import array
+import math
+import os
+import pathlib
+import shutil
+import subprocess
+import tempfile
+import time
+
+SCREEN = (1280, 800)
+PATIENCE = 30  # seconds until a wait counts as failed; a loaded machine may need most of it
+
+
+class Timeout(Exception):
+    """What was waited for did not come."""
+
+
+def wait_until(condition, what, timeout=PATIENCE):
+    """The first true answer of `condition`, asked again and again; Timeout says `what` when none comes."""
+    end = time.monotonic() + timeout
+    while True:
+        answer = condition()
+        if answer:
+            return answer
+        if time.monotonic() > end:
+            raise Timeout(f"waited {timeout} s for {what}")
+        time.sleep(0.02)
+
+
+class Desk:
+    """The running desktop. `folder` is private and goes with it; `environment` is that of a program started on it."""
+
+    def __init__(self):
+        self.folder = pathlib.Path(tempfile.mkdtemp(prefix="tallymoor-tour-"))
+        self._processes = []
+        try:
+            self._lay_out()
+        except BaseException:
+            self.close()
+            raise
+
+    def _lay_out(self):
+        for name in ("home", "run"):
+            (self.folder / name).mkdir(mode=0o700)
+        foreign = ("WAYLAND_DISPLAY", "XAUTHORITY", "SESSION_MANAGER", "DBUS_SESSION_BUS_ADDRESS", "AT_SPI_BUS_ADDRESS")
+        self.environment = {key: value for key, value in os.environ.items()
+                            if key not in foreign and not key.startswith(("XDG_", "QT_", "LC_"))}
+        self.environment |= {
+            "HOME": str(self.folder / "home"),
+            "XDG_RUNTIME_DIR": str(self.folder / "run"),
+            "LANG": "C.UTF-8",
+            "QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1",
+            "PULSE_SERVER": f"unix:{self.folder / 'sound'}",
+            "PULSE_COOKIE": str(self.folder / "cookie"),
+            "CUPS_SERVER": "/nonexistent",
+        }
+        self._start_display()
+        self._start_bus()
+        self._start_sound()
+
+    def _start_display(self):
+        size = "x".join(map(str, SCREEN))
+        number = self._told_number("Xvfb", "-displayfd", "{}", "-screen", "0", f"{size}x24", "-nolisten", "tcp", "-noreset")
+        self.environment["DISPLAY"] = f":{number}"
+        self.run("setxkbmap", "de")  # the one map on which "ä" and "€" can be typed
+        self.start("openbox", "--sm-disable")
+        wait_until(lambda: "window id" in self.run("xprop", "-root", "_NET_SUPPORTING_WM_CHECK"), "the window manager")
+
+    def _start_bus(self):
+        self.environment["DBUS_SESSION_BUS_ADDRESS"] = self._told_number(
+            "dbus-daemon", "--session", "--nofork", "--nopidfile", "--print-address={}")
+
+    def _start_sound(self):
+        """A speaker that can be heard at its monitor, and a microphone that hears what is played to `micfeed`."""
+        modules = (f"module-native-protocol-unix socket={self.folder / 'sound'} auth-anonymous=1",
+                   "module-null-sink sink_name=speaker norewinds=1",
+                   "module-null-sink sink_name=micfeed norewinds=1",
+                   "module-remap-source master=micfeed.monitor source_name=mic")
+        server = {key: value for key, value in self.environment.items() if key != "PULSE_SERVER"}
+        self.start("pulseaudio", "-n", "--daemonize=no", "--exit-idle-time=-1", "--use-pid-file=no", "--disable-shm=yes",
+                   "--log-target=stderr", "--log-level=error", *(f"--load={module}" for module in modules),
+                   environment=server)
+        wait_until(lambda: "speaker" in self.run("pactl", "list", "short", "sinks", check=False), "the sound server")
+
+    def start(self, *command, environment=None, log=None, **more):
+        """Starts a process that ends with the desk at the latest. What it says goes to the file `log`, or a log of its
+        own name."""
+        with open(log or self.folder / f"{pathlib.Path(command[0]).name}.log", "ab") as output:
+            process = subprocess.Popen(("setpriv", "--pdeathsig", "TERM", *command), env=environment or self.environment,
+                                       cwd=self.folder / "home", stdin=subprocess.DEVNULL, stdout=output, stderr=output,
+                                       **more)
+        self._processes.append(process)
+        return process
+
+    def _told_number(self, *command):
+        """Starts a process that writes a line to the file descriptor that stands for {}, and gives that line."""
+        reading, writing = os.pipe()
+        self.start(*(part.format(writing) if part.endswith("{}") else part for part in command), pass_fds=(writing,))
+        os.close(writing)
+        with open(reading, encoding="ascii") as pipe:
+            line = pipe.readline().strip()
+        if not line:
+            raise Timeout(f"{command[0]} did not start")
+        return line
+
+    def run(self, *command, check=True):
+        """What a short command says. A failing one raises, with what it said, unless check is False."""
+        result = subprocess.run(command, env=self.environment, stdin=subprocess.DEVNULL, stdout=subprocess.PIPE,
+                                stderr=subprocess.STDOUT, text=True, timeout=PATIENCE)
+        if check and result.returncode:
+            raise Timeout(f"{' '.join(command)}: {result.stdout.strip()}")
+        return result.stdout
+
+    def picture(self, path):
+        """Takes a picture of the whole screen."""
+        path.parent.mkdir(parents=True, exist_ok=True)
+        self.run("import", "-window", "root", str(path))
+
+    def close(self):
+        for process in reversed(self._processes):
+            process.terminate()
+        for process in self._processes:
+            try:
+                process.wait(5)
+            except subprocess.TimeoutExpired:
+                process.kill()
+                process.wait()
+        shutil.rmtree(self.folder, ignore_errors=True)
+
+
+class Ear:
+    """Listens at the speaker: with Ear(desk) as ear."""
+
+    RATE = 16000
+
+    def __init__(self, desk):
+        self._desk = desk
+
+    def __enter__(self):
+        desk = self._desk
+        self._file = desk.folder / "heard.raw"
+        self._file.unlink(missing_ok=True)
+        self._process = desk.start("parecord", "-d", "speaker.monitor", "--raw", "--format=s16le", f"--rate={self.RATE}",
+                                   "--channels=1", "--latency-msec=20", str(self._file))
+        wait_until(lambda: self._file.exists() and self._file.stat().st_size > self.RATE // 10, "the ear to hear silence")
+        return self
+
+    def __exit__(self, *problem):
+        self._process.terminate()
+        self._process.wait()
+
+    def loudness(self):
+        """The root mean square of all that was heard so far and is not silence: 0 for silence, 1 for the loudest tone."""
+        data = self._file.read_bytes()
+        samples = [s for s in array.array("h", data[:len(data) // 2 * 2]) if s]
+        return math.sqrt(sum(s * s for s in samples) / len(samples)) / 32768 if samples else 0.0
+
+    def seconds(self):
+        """For how long something was heard."""
+        data = self._file.read_bytes()
+        return sum(1 for s in array.array("h", data[:len(data) // 2 * 2]) if abs(s) > 32) / self.RATE

@@ -1,0 +1,207 @@
+"""Drives the real program as a pupil does: on a display, with mouse and keys, with sound and files.
+
+A tour is a short script:
+
+    with Tour("board") as tour:
+        tour.start()
+        tour.click(tour.find("push button", "OK"))
+        tour.picture("welcome")
+
+Whatever does not come in time fails the tour, with a picture, the program's own words and an outline of its windows
+in the folder of the tour's pictures."""
+
+import argparse
+import os
+import pathlib
+import re
+import shutil
+import subprocess
+import sys
+
+import reader
+from desk import PATIENCE, Desk, Ear, Timeout, wait_until
+
+HOUSE = pathlib.Path(__file__).resolve().parents[2]
+sys.path.insert(0, str(HOUSE / "scripts"))
+from settings import Settings  # noqa: E402
+
+
+class Tour:
+    """A copy of the program with the sample databases, on a desk of its own. `program` is the folder of the copy."""
+
+    def __init__(self, name):
+        options = argparse.ArgumentParser(description=f"The tour {name}.")
+        options.add_argument("--program", type=pathlib.Path, required=True, help="folder of the built program")
+        options.add_argument("--samples", type=pathlib.Path, required=True, help="folder of the built sample databases")
+        options.add_argument("--pictures", type=pathlib.Path, required=True, help="folder for the tours' pictures")
+        chosen = options.parse_args()
+        self.pictures = chosen.pictures.resolve() / name
+        shutil.rmtree(self.pictures, ignore_errors=True)
+        self._source, self._samples = chosen.program.resolve(), chosen.samples.resolve()
+
+    def __enter__(self):
+        self.desk = Desk()
+        reader.connect(self.desk.environment)
+        self.program = self.desk.folder / "Tallymoor"
+        self.settings = Settings(self.program)
+        self._process = None
+        self._pictures_taken = 0
+        self._copy_program()
+        return self
+
+    def __exit__(self, kind, problem, trace):
+        try:
+            if problem is not None:
+                self._keep_evidence()
+        finally:
+            self.desk.close()
+        print(f"Pictures are in {self.pictures}")
+
+    def _copy_program(self):
+        """The executable and what lies beside it, not the tests' executables, databases and settings of others."""
+        foreign = {"samples", self.settings.path.name} | {
+            f.name for f in self._source.iterdir()
+            if f.is_file() and f.name != "tallymoor" and os.access(f, os.X_OK)}
+        shutil.copytree(self._source, self.program, ignore=lambda folder, names: foreign & set(names))
+        self.desk.run(str(HOUSE / "scripts" / "place-samples"), str(self._samples), str(self.program))
+
+    def _keep_evidence(self):
+        self.pictures.mkdir(parents=True, exist_ok=True)
+        self.desk.picture(self.pictures / "failed.png")
+        for log in self.desk.folder.glob("*.log"):
+            shutil.copy(log, self.pictures)
+        if self._process and self._process.poll() is None:
+            (self.pictures / "windows.txt").write_text(reader.program(self._process.pid).outline(), encoding="utf-8")
+        said = self.desk.folder / "tallymoor.log"
+        print(f"The program said:\n{said.read_text(errors='replace') if said.exists() else ''}", file=sys.stderr)
+
+    # The program
+
+    def start(self):
+        """Starts the program; the tour goes on at once."""
+        self._process = self.desk.start(str(self.program / "tallymoor"))
+
+    def end(self):
+        """Waits until the program has ended by itself, in order."""
+        try:
+            code = self._process.wait(PATIENCE)
+        except subprocess.TimeoutExpired:
+            raise Timeout("waited for the program to end") from None
+        if code:
+            raise AssertionError(f"the program ended with {code}")
+
+    def wait_until(self, condition, what, timeout=PATIENCE):
+        """The first true answer of `condition`; a part of a window that vanishes under it counts as no answer."""
+        def asked():
+            if self._process and self._process.poll() is not None:
+                raise AssertionError(f"the program ended with {self._process.returncode} while waiting for {what}")
+            try:
+                return condition()
+            except reader.Gone:
+                return None
+        return wait_until(asked, what, timeout)
+
+    def check(self, holds, what):
+        if not holds:
+            raise AssertionError(what)
+
+    # Its windows
+
+    def window(self, title):
+        """Waits for the window whose title contains `title`, brings it to the front and gives its X number."""
+        def search():
+            return self.desk.run("xdotool", "search", "--onlyvisible", "--name", title, check=False).split()
+        number = self.wait_until(search, f'the window "{title}"')[-1]
+        self.desk.run("xdotool", "windowactivate", "--sync", number)
+        return number
+
+    def windows(self):
+        """The titles of all windows that show."""
+        numbers = self.desk.run("xdotool", "search", "--onlyvisible", "--name", ".", check=False).split()
+        return [self.desk.run("xdotool", "getwindowname", number, check=False).strip() for number in numbers]
+
+    def all(self, role, name=None, within=None):
+        """Every showing part of that role, and name if one is given, in the program or within another part."""
+        root = within or reader.program(self._process.pid)
+        return [thing for thing in (root.below() if root else ())
+                if thing.role == role and (name is None or thing.name == name) and thing.has("showing")]
+
+    def find(self, role, name=None, within=None):
+        """Waits for the first showing part of that role and name."""
+        return self.wait_until(lambda: self.all(role, name, within), f'{role} "{name or ""}"')[0]
+
+    def close_by_frame(self, title):
+        """Clicks the close button in the frame of the window with that title."""
+        number = self.window(title)
+        edges = self.desk.run("xprop", "-id", number, "_NET_FRAME_EXTENTS").split("=")[1].split(",")
+        bar = int(edges[2])  # left, right, top, bottom
+        place = dict(re.findall(r"(Absolute upper-left [XY]|Width): +(-?\d+)", self.desk.run("xwininfo", "-id", number)))
+        left, top, width = (int(place[k]) for k in ("Absolute upper-left X", "Absolute upper-left Y", "Width"))
+        self.click((left + width - bar // 2, top - bar // 2))
+
+    # Mouse and keys
+
+    def click(self, where, button=1, times=1):
+        """Clicks a part in its middle, or a place on the screen."""
+        x, y = where if isinstance(where, tuple) else where.centre
+        self.desk.run("xdotool", "mousemove", str(x), str(y), "click", "--repeat", str(times), "--delay", "60", str(button))
+
+    def double_click(self, where):
+        self.click(where, times=2)
+
+    def right_click(self, where):
+        self.click(where, button=3)
+
+    def drag(self, where, by, button=1):
+        """Takes a part by its middle, or whatever lies at a place, and puts it down `by` pixels right and down."""
+        x, y = where if isinstance(where, tuple) else where.centre
+        steps = [(x + by[0] * i // 4, y + by[1] * i // 4) for i in (1, 2, 3, 4)]
+        moves = [word for step in steps for word in ("mousemove", *map(str, step))]
+        self.desk.run("xdotool", "mousemove", str(x), str(y), "mousedown", str(button), *moves, "mouseup", str(button))
+
+    def key(self, *keys):
+        """Presses keys one after the other: "Return", "ctrl+shift+k"."""
+        self.desk.run("xdotool", "key", *keys)
+
+    def type(self, text):
+        self.desk.run("xdotool", "type", "--delay", "5", text)
+
+    # Its databases
+
+    def databases(self):
+        """The folders of the sample databases beside the program."""
+        return sorted(found.parent for found in (self.program / "samples").glob("*/db-info.tdb"))
+
+    def card_labels(self, database):
+        """The label of each card by the name of its files, in their order."""
+        records = sorted(database.glob("*.tcd"))
+        return {f.stem: f.read_text(encoding="cp1252").splitlines()[1].strip('"') for f in records}
+
+    def database_with_sound(self):
+        """A sample database with sounds, and the label of its first card that has one."""
+        for database in self.databases():
+            for name, label in self.card_labels(database).items():
+                if (database / f"{name}.snd").exists():
+                    return database, label
+        raise AssertionError("no sample card has a sound")
+
+    # What came of it
+
+    def picture(self, name):
+        """Takes a picture of the screen, numbered in the order of the tour."""
+        self._pictures_taken += 1
+        self.desk.picture(self.pictures / f"{self._pictures_taken:02}-{name}.png")
+
+    def listen(self):
+        """An ear at the speaker, for a with statement."""
+        return Ear(self.desk)
+
+    def contents(self, folder):
+        """Every file below the folder with its bytes, to be compared with a later look."""
+        folder = pathlib.Path(folder)
+        return {str(f.relative_to(folder)): f.read_bytes() for f in sorted(folder.rglob("*")) if f.is_file()}
+
+    def check_same(self, before, after):
+        """Fails with the names of the files that came, went or changed."""
+        differing = sorted(name for name in before.keys() | after.keys() if before.get(name) != after.get(name))
+        self.check(not differing, f"files came, went or changed: {', '.join(differing)}")
