@@ -11,6 +11,8 @@ Screen blankScreen()
     blank.measureLabel = [](const QString&, double&, double&) {};
     blank.showSpeedWindow = [] {};
     blank.unloadSpeedWindow = [] {};
+    blank.showHint = [](const QString&) {};
+    blank.hideHints = [] {};
     blank.openCard = [](int) {};
     blank.cardDropped = [](int) {};
     blank.openTeacherOptions = [] {};

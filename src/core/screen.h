@@ -23,6 +23,10 @@ struct Screen {
     std::function<void()> showSpeedWindow;
     std::function<void()> unloadSpeedWindow;
 
+    /// A hint beside the mouse pointer, in the balloon of the bin and the buttons; none any more.
+    std::function<void(const QString& text)> showHint;
+    std::function<void()> hideHints;
+
     // Hooks: what a lower floor asks of a higher one.
     std::function<void(int card)> openCard;
     std::function<void(int card)> cardDropped;

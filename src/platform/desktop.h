@@ -59,6 +59,8 @@ struct Desktop {
     std::function<QSize()> screenSize;
     std::function<double()> twipsPerPixelX;
     std::function<double()> twipsPerPixelY;
+    /// The device's own pixels to one pixel of ours, 2 on a screen of double density.
+    std::function<double()> pixelRatio;
 
     /// The folder of the executable, where the settings file lies; no separator at its end.
     std::function<QString()> programFolder;

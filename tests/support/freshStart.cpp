@@ -68,6 +68,7 @@ Desktop recordingDesktop()
     d.screenSize = [] { return QSize(1280, 800); };
     d.twipsPerPixelX = [] { return 15.0; };
     d.twipsPerPixelY = [] { return 15.0; };
+    d.pixelRatio = [] { return 1.0; };
     d.programFolder = [] { return testFolder().chopped(1); };
     d.documentsFolder = [] { return testFolder() + QStringLiteral("Documents"); };
     d.volumes = [] { return QList<Volume>(); };
