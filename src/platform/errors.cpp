@@ -9,6 +9,7 @@ namespace {
 
 constexpr std::pair<int, const char*> descriptions[] = {
     {overflow, "Overflow"},
+    {outOfMemory, "Out of memory"},
     {outOfRange, "Subscript out of range"},
     {divisionByZero, "Division by zero"},
     {typeMismatch, "Type mismatch"},

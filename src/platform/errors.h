@@ -9,6 +9,7 @@
 
 // The numbers that the system knows.
 inline constexpr int overflow = 6;
+inline constexpr int outOfMemory = 7;
 inline constexpr int outOfRange = 9;
 inline constexpr int divisionByZero = 11;
 inline constexpr int typeMismatch = 13;

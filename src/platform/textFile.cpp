@@ -1,0 +1,167 @@
+#include "platform/textFile.h"
+
+#include "platform/errors.h"
+#include "platform/values.h"
+
+#include <algorithm>
+#include <array>
+#include <optional>
+
+namespace {
+
+constexpr QChar byteOrderMark = QChar(0xFEFF);
+
+// Code page 1252 differs from Latin-1 in these bytes only; its five unused ones stay as they are.
+constexpr int firstSpecial = 0x80;
+constexpr std::array<char16_t, 32> specials = {
+    0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
+    0x2039, 0x0152, 0x008D, 0x017D, 0x008F, 0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
+    0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178,
+};
+
+std::optional<char> codePageByte(QChar character)
+{
+    const char16_t code = character.unicode();
+    if (code < firstSpecial || (code >= firstSpecial + specials.size() && code <= 0xFF))
+        return static_cast<char>(code);
+    const auto found = std::find(specials.begin(), specials.end(), code);
+    if (found == specials.end())
+        return std::nullopt;
+    return static_cast<char>(firstSpecial + (found - specials.begin()));
+}
+
+std::optional<QByteArray> inCodePage(const QString& text)
+{
+    QByteArray bytes;
+    bytes.reserve(text.size());
+    for (const QChar character : text) {
+        const auto byte = codePageByte(character);
+        if (!byte)
+            return std::nullopt;
+        bytes.append(*byte);
+    }
+    return bytes;
+}
+
+bool readsAsUtf8(const QByteArray& bytes)
+{
+    const bool onlyAscii =
+        std::all_of(bytes.begin(), bytes.end(), [](char byte) { return static_cast<uchar>(byte) < 0x80; });
+    return !onlyAscii && bytes.isValidUtf8();
+}
+
+bool isBlank(QChar character) { return character == QLatin1Char(' ') || character == QLatin1Char('\t'); }
+bool isLineEnd(QChar character) { return character == QLatin1Char('\r') || character == QLatin1Char('\n'); }
+
+} // namespace
+
+QByteArray encodeText(const QString& text)
+{
+    if (const auto bytes = inCodePage(text); bytes && !readsAsUtf8(*bytes))
+        return *bytes;
+    // Reading drops one byte order mark: a text that begins with that character gets a second.
+    return text.startsWith(byteOrderMark) ? (byteOrderMark + text).toUtf8() : text.toUtf8();
+}
+
+QString decodeText(const QByteArray& bytes)
+{
+    if (readsAsUtf8(bytes))
+        return QString::fromUtf8(bytes);
+    QString text(bytes.size(), Qt::Uninitialized);
+    std::transform(bytes.begin(), bytes.end(), text.begin(), [](char signedByte) {
+        const auto byte = static_cast<uchar>(signedByte);
+        const int special = byte - firstSpecial;
+        return special >= 0 && special < int(specials.size()) ? QChar(specials[size_t(special)])
+                                                              : QChar(byte);
+    });
+    return text;
+}
+
+ItemReader::ItemReader(const QString& itemText)
+    : text(itemText)
+{
+}
+
+ItemReader::ItemReader(const QByteArray& fileBytes)
+    : text(decodeText(fileBytes))
+{
+}
+
+QString ItemReader::next()
+{
+    if (atEnd())
+        throw RuntimeError(pastEndOfFile);
+    skipBlanks();
+    return !atEnd() && text[at] == QLatin1Char('"') ? quotedItem() : bareItem();
+}
+
+qint16 ItemReader::nextInteger()
+{
+    bool ok = false;
+    const double number = next().toDouble(&ok);
+    if (!ok)
+        throw RuntimeError(typeMismatch);
+    return toInteger(number);
+}
+
+bool ItemReader::nextTruth()
+{
+    const QString item = next();
+    if (item.compare(QLatin1String("True"), Qt::CaseInsensitive) == 0)
+        return true;
+    if (item.compare(QLatin1String("False"), Qt::CaseInsensitive) == 0)
+        return false;
+    bool ok = false;
+    const double number = item.toDouble(&ok);
+    if (!ok)
+        throw RuntimeError(typeMismatch);
+    return number != 0;
+}
+
+void ItemReader::skipBlanks()
+{
+    while (!atEnd() && isBlank(text[at]))
+        ++at;
+}
+
+/// Passes over one comma or one line end, if the reader stands before one.
+void ItemReader::skipSeparator()
+{
+    if (atEnd())
+        return;
+    const QChar separator = text[at];
+    if (separator == QLatin1Char(',') || isLineEnd(separator))
+        ++at;
+    if (separator == QLatin1Char('\r') && !atEnd() && text[at] == QLatin1Char('\n'))
+        ++at;
+}
+
+QString ItemReader::quotedItem()
+{
+    const qsizetype start = at + 1;
+    const qsizetype quote = text.indexOf(QLatin1Char('"'), start);
+    const qsizetype end = quote < 0 ? text.size() : quote;
+    at = std::min(end + 1, text.size());
+    skipBlanks();
+    skipSeparator();
+    return text.sliced(start, end - start);
+}
+
+QString ItemReader::bareItem()
+{
+    const qsizetype start = at;
+    while (!atEnd() && text[at] != QLatin1Char(',') && !isLineEnd(text[at]))
+        ++at;
+    const QString item = text.sliced(start, at - start).trimmed();
+    skipSeparator();
+    return item;
+}
+
+void ItemWriter::quoted(const QString& item) { bare(QLatin1Char('"') + item + QLatin1Char('"')); }
+
+void ItemWriter::bare(const QString& item) { text += item + QLatin1String("\r\n"); }
+
+void ItemWriter::number(int item)
+{
+    bare((item < 0 ? QString() : QStringLiteral(" ")) + QString::number(item) + QLatin1Char(' '));
+}

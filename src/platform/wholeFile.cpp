@@ -1,0 +1,322 @@
+#include "platform/wholeFile.h"
+
+#include "platform/errors.h"
+
+#include <QCryptographicHash>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QSysInfo>
+#include <QThread>
+
+#include <cerrno>
+#include <csignal>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+#include <utility>
+
+namespace {
+
+// A new file is called .tallymoor~MACHINE~PROCESS~COUNT until it takes its place: hidden from every listing.
+const QString leftoverPrefix = QStringLiteral(".tallymoor~");
+constexpr int foreignLeftoverSeconds = 600;
+
+constexpr int renameTries = 10;
+constexpr int renamePauseMs = 20;
+
+[[noreturn]] void raiseFor(int systemError)
+{
+    constexpr struct {
+        int systemError;
+        int number;
+    } known[] = {
+        {ENOENT, fileNotFound},
+        {ENOTDIR, pathNotFound},
+        {ENAMETOOLONG, pathNotFound},
+        {ESTALE, pathNotFound},
+        {ENOSPC, diskFull},
+        {EDQUOT, diskFull},
+        {EFBIG, diskFull},
+        {EROFS, permissionDenied},
+        {EBUSY, permissionDenied},
+        {ETXTBSY, permissionDenied},
+        {EAGAIN, permissionDenied},
+        {EACCES, pathAccessError},
+        {EPERM, pathAccessError},
+        {EISDIR, pathAccessError},
+        {EOPNOTSUPP, pathAccessError},
+        {ELOOP, pathAccessError},
+        {ENXIO, deviceUnavailable},
+        {ENODEV, deviceUnavailable},
+        {ENOTCONN, deviceUnavailable},
+        {EHOSTDOWN, deviceUnavailable},
+        {ETIMEDOUT, deviceUnavailable},
+        {ENOMEM, outOfMemory},
+    };
+    for (const auto& [error, number] : known) {
+        if (error == systemError)
+            throw RuntimeError(number);
+    }
+    throw RuntimeError(deviceError);
+}
+
+QByteArray systemName(const QString& path) { return QFile::encodeName(path); }
+
+QString folderOf(const QString& path) { return QFileInfo(path).path(); }
+
+/// An open file of the system. It is closed when it goes, after an error too.
+class OpenFile {
+public:
+    OpenFile(const QString& path, int flags, mode_t mode = 0)
+        : descriptor(::open(systemName(path).constData(), flags | O_CLOEXEC, mode))
+    {
+        if (descriptor < 0)
+            failure = errno;
+    }
+    ~OpenFile()
+    {
+        if (descriptor >= 0)
+            ::close(descriptor);
+    }
+    OpenFile(const OpenFile&) = delete;
+    OpenFile& operator=(const OpenFile&) = delete;
+
+    /// 0 when it was opened, otherwise the system's error.
+    int error() const { return failure; }
+
+    struct stat status() const
+    {
+        struct stat found = {};
+        check(::fstat(descriptor, &found));
+        return found;
+    }
+
+    QByteArray readAll(qint64 length) const
+    {
+        QByteArray bytes(length, Qt::Uninitialized);
+        qint64 have = 0;
+        while (have < length) {
+            const ssize_t count = ::read(descriptor, bytes.data() + have, size_t(length - have));
+            if (count < 0 && errno == EINTR)
+                continue;
+            check(count);
+            if (count == 0)
+                break; // it was cut while it was read
+            have += count;
+        }
+        bytes.truncate(have);
+        return bytes;
+    }
+
+    void writeFromStart(const QByteArray& bytes) const
+    {
+        qint64 done = 0;
+        while (done < bytes.size()) {
+            const ssize_t count =
+                ::pwrite(descriptor, bytes.constData() + done, size_t(bytes.size() - done), done);
+            if (count < 0 && errno == EINTR)
+                continue;
+            check(count);
+            done += count;
+        }
+    }
+
+    /// Reserves room for so many bytes without changing the file's length.
+    void reserve(qint64 length) const
+    {
+        if (length > 0)
+            check(::fallocate(descriptor, FALLOC_FL_KEEP_SIZE, 0, length));
+    }
+
+    void cutTo(qint64 length) const { check(::ftruncate(descriptor, length)); }
+    void takeMode(mode_t mode) const { static_cast<void>(::fchmod(descriptor, mode & 07777)); }
+    void flushToDisk() const { check(::fdatasync(descriptor)); }
+
+    /// Closes and tells what the system has still to tell: network disks report a lack of room only here.
+    void close()
+    {
+        const int closing = std::exchange(descriptor, -1);
+        check(::close(closing));
+    }
+
+private:
+    static void check(ssize_t result)
+    {
+        if (result < 0)
+            raiseFor(errno);
+    }
+
+    int descriptor;
+    int failure = 0;
+};
+
+/// Names this running system: the same for all processes that can see each other's numbers, and for no
+/// others, even where the machines of a classroom are copies of one another and bear the same name.
+QString machineName()
+{
+    static const QString name = [] {
+        QFile boot(QStringLiteral("/proc/sys/kernel/random/boot_id"));
+        QCryptographicHash hash(QCryptographicHash::Sha1);
+        if (boot.open(QIODevice::ReadOnly))
+            hash.addData(boot.readAll());
+        hash.addData(QFile::symLinkTarget(QStringLiteral("/proc/self/ns/pid")).toUtf8());
+        hash.addData(QSysInfo::machineHostName().toUtf8());
+        return QString::fromLatin1(hash.result().toHex().first(16));
+    }();
+    return name;
+}
+
+QString nameForNewFile()
+{
+    static int count = 0;
+    return leftoverPrefix + machineName() + QLatin1Char('~') + QString::number(::getpid()) +
+           QLatin1Char('~') + QString::number(++count);
+}
+
+/// A new file that has not taken its place yet; it vanishes unless it does.
+class NewFile {
+public:
+    explicit NewFile(const QString& folder)
+        : path(folder + QLatin1Char('/') + nameForNewFile())
+        , file(path, O_WRONLY | O_CREAT | O_EXCL, 0666)
+    {
+    }
+    ~NewFile()
+    {
+        if (!placed && error() == 0)
+            ::unlink(systemName(path).constData());
+    }
+    NewFile(const NewFile&) = delete;
+    NewFile& operator=(const NewFile&) = delete;
+
+    int error() const { return file.error(); }
+    struct stat status() const { return file.status(); }
+    void takeMode(mode_t mode) const { file.takeMode(mode); }
+
+    void fill(const QByteArray& bytes)
+    {
+        file.writeFromStart(bytes);
+        file.flushToDisk();
+        file.close();
+    }
+
+    /// 0 when it took its place. On a share another station's open handle can stand in the way for a moment.
+    int takePlaceOf(const QString& target)
+    {
+        for (int attempt = 1;; ++attempt) {
+            placed = ::rename(systemName(path).constData(), systemName(target).constData()) == 0;
+            const int refusal = placed ? 0 : errno;
+            const bool mayPass = refusal == EACCES || refusal == EBUSY || refusal == ETXTBSY;
+            if (!mayPass || attempt == renameTries)
+                return refusal;
+            QThread::msleep(renamePauseMs);
+        }
+    }
+
+private:
+    QString path;
+    OpenFile file;
+    bool placed = false;
+};
+
+/// For a file that may be written in a folder that may not.
+void overwriteInPlace(const QString& path, const QByteArray& bytes)
+{
+    const OpenFile file(path, O_RDWR);
+    if (file.error())
+        raiseFor(file.error());
+    const QByteArray former = file.readAll(file.status().st_size);
+    file.reserve(bytes.size());
+    try {
+        file.writeFromStart(bytes);
+        file.cutTo(bytes.size());
+        file.flushToDisk();
+    } catch (const RuntimeError&) {
+        file.writeFromStart(former);
+        file.cutTo(former.size());
+        throw;
+    }
+}
+
+/// Writes the file beside its target, with the old one's rights, and lets it take its place. Tells the
+/// system's refusal of either, 0 when there was none; raises when the bytes can't be written.
+int putNewFile(const QString& target, const QByteArray& bytes, const struct stat* old)
+{
+    NewFile made(folderOf(target));
+    if (made.error())
+        return made.error();
+    if (old)
+        made.takeMode(old->st_mode);
+    made.fill(bytes);
+    return made.takePlaceOf(target);
+}
+
+bool isRunning(pid_t process) { return ::kill(process, 0) == 0 || errno == EPERM; }
+
+/// What the folder's own system, on a share the server, holds for the present time; 0 when nothing can be
+/// written.
+time_t clockOf(const QString& folder)
+{
+    const NewFile probe(folder);
+    return probe.error() ? 0 : probe.status().st_mtime;
+}
+
+} // namespace
+
+QByteArray readWholeFile(const QString& path, qint64 limit)
+{
+    // Not blocking, so that a pipe that bears a card's name holds nobody up.
+    const OpenFile file(path, O_RDONLY | O_NONBLOCK);
+    if (file.error() == ENOENT && !QFileInfo(folderOf(path)).isDir())
+        raiseFor(ENOTDIR);
+    if (file.error())
+        raiseFor(file.error());
+    const struct stat status = file.status();
+    if (!S_ISREG(status.st_mode))
+        throw RuntimeError(pathAccessError);
+    if (status.st_size > limit)
+        throw RuntimeError(outOfMemory);
+    return file.readAll(status.st_size);
+}
+
+void replaceFile(const QString& path, const QByteArray& bytes)
+{
+    const QString behindLinks = QFileInfo(path).canonicalFilePath();
+    const QString target = behindLinks.isEmpty() ? path : behindLinks;
+    const QByteArray targetName = systemName(target);
+    struct stat old = {};
+    const bool replaces = ::stat(targetName.constData(), &old) == 0;
+    if (replaces && !S_ISREG(old.st_mode))
+        throw RuntimeError(pathAccessError);
+    if (replaces && ::access(targetName.constData(), W_OK) != 0)
+        raiseFor(errno);
+
+    const int refusal = putNewFile(target, bytes, replaces ? &old : nullptr);
+    // A folder that refuses new files, or one that lets nobody rename over another's file.
+    const bool folderRefuses = refusal == EACCES || refusal == EPERM;
+    if (replaces && folderRefuses)
+        overwriteInPlace(target, bytes);
+    else if (refusal)
+        raiseFor(refusal == ENOENT ? ENOTDIR : refusal);
+}
+
+void sweepLeftovers(const QString& folder)
+{
+    const QDir dir(folder);
+    const auto leftovers = dir.entryInfoList({leftoverPrefix + QLatin1Char('*')}, QDir::Files | QDir::Hidden);
+    time_t now = 0;
+    for (const QFileInfo& leftover : leftovers) {
+        const QStringList parts = leftover.fileName().split(QLatin1Char('~'));
+        const pid_t process = parts.value(2).toInt();
+        if (process <= 0)
+            continue; // none of ours
+        bool dead = parts.value(1) == machineName() && !isRunning(process);
+        if (!dead) {
+            now = now ? now : clockOf(folder);
+            dead = now - leftover.lastModified().toSecsSinceEpoch() > foreignLeftoverSeconds;
+        }
+        if (dead)
+            QFile::remove(leftover.filePath());
+    }
+}

@@ -1,0 +1,96 @@
+#include "platform/textFile.h"
+
+#include "support/files.h"
+
+using testing::ElementsAre;
+using testing::Throws;
+
+namespace {
+
+QStringList itemsOf(const QString& text)
+{
+    QStringList items;
+    ItemReader reader(text);
+    while (!reader.atEnd())
+        items.append(reader.next());
+    return items;
+}
+
+} // namespace
+
+TEST(TextFile, EveryTextSurvivesARoundTrip)
+{
+    QString codePage;
+    for (int byte = 0; byte < 256; ++byte)
+        codePage += decodeText(QByteArray(1, char(byte)));
+    const QString texts[] = {
+        QString(),
+        codePage,
+        QStringLiteral("Żółw i świerszcz"),
+        QStringLiteral("Ã¤"), // its 1252 bytes are the UTF-8 of another text
+        QStringLiteral("ï»¿abc"),
+        QStringLiteral("😀"),
+        QString(QChar(0xFEFF)) + QStringLiteral("mark"),
+        QStringLiteral("\u0081"),
+        QStringLiteral("nul") + QChar(0) + QStringLiteral("inside"),
+    };
+    for (const QString& text : texts)
+        EXPECT_EQ(decodeText(encodeText(text)), text);
+}
+
+TEST(TextFile, PlainFilesKeepTheirBytes)
+{
+    EXPECT_EQ(encodeText(QStringLiteral("Bär €")), QByteArray("B\xE4r \x80"));
+    EXPECT_EQ(encodeText(QStringLiteral("Ł")), QByteArray("\xC5\x81"));
+    EXPECT_EQ(decodeText("B\xE4r \x80"), QStringLiteral("Bär €"));
+    EXPECT_EQ(decodeText("B\xC3\xA4r"), QStringLiteral("Bär"));
+    EXPECT_EQ(decodeText("\xEF\xBB\xBF\"n\""), QStringLiteral("\"n\"")) << "an editor's byte order mark";
+}
+
+TEST(TextFile, ItemsEndAtCommasAndLineEndsOutsideQuotes)
+{
+    const std::pair<const char*, QStringList> cases[] = {
+        {"", {}},
+        {"\"a, b\"\r\n\"\"\r\n", {"a, b", ""}},
+        {" 4 \r\n 1 \r\n", {"4", "1"}},
+        {"a,b\nc\rd", {"a", "b", "c", "d"}},
+        {"VER=\"1.1.0\"\r\n", {"VER=\"1.1.0\""}},
+        {"\"say \"hi\" now\"\r\n\"next\"", {"say ", "hi\" now\"", "next"}},
+        {"\"a\" , \"b\"", {"a", "b"}},
+        {"\"two\r\nlines\"\r\nx", {"two\r\nlines", "x"}},
+        {"\"never closed\r\nx", {"never closed\r\nx"}},
+        {"\"", {""}},
+        {"\r\n\r\n", {"", ""}},
+        {"a,\r\n", {"a", ""}},
+        {"   ", {""}},
+    };
+    for (const auto& [text, items] : cases)
+        EXPECT_EQ(itemsOf(QString::fromLatin1(text)), items) << text;
+}
+
+TEST(TextFile, NumbersAndTruthValuesThatAreNoneAreErrors)
+{
+    const auto integer = [](const char* text) { return ItemReader(QString::fromLatin1(text)).nextInteger(); };
+    const auto truth = [](const char* text) { return ItemReader(QString::fromLatin1(text)).nextTruth(); };
+    EXPECT_EQ(integer(" -7 \r\n"), -7);
+    EXPECT_EQ(integer("\"2.5\""), 2);
+    EXPECT_TRUE(truth("TRUE\r\n"));
+    EXPECT_TRUE(truth("-1"));
+    EXPECT_FALSE(truth("false"));
+    EXPECT_EQ(errorOf([&] { integer("four"); }), typeMismatch);
+    EXPECT_EQ(errorOf([&] { integer("40000"); }), overflow);
+    EXPECT_EQ(errorOf([&] { integer("inf"); }), overflow);
+    EXPECT_EQ(errorOf([&] { truth("maybe"); }), typeMismatch);
+    EXPECT_EQ(errorOf([&] { truth(""); }), pastEndOfFile);
+}
+
+TEST(TextFile, WritesAsThePrintStatementDoes)
+{
+    ItemWriter writer;
+    writer.number(4);
+    writer.number(-1);
+    writer.quoted(QStringLiteral("Größe, m"));
+    writer.bare(QStringLiteral("True"));
+    EXPECT_EQ(writer.bytes(), QByteArray(" 4 \r\n-1 \r\n\"Gr\xF6\xDF"
+                                         "e, m\"\r\nTrue\r\n"));
+}

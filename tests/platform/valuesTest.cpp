@@ -1,0 +1,69 @@
+#include "platform/values.h"
+
+#include "support/files.h"
+
+#include <limits>
+
+namespace {
+
+constexpr double largest = std::numeric_limits<double>::max();
+
+} // namespace
+
+TEST(Values, TakeTheLongestNumberThatATextBeginsWith)
+{
+    const struct {
+        const char* text;
+        double number;
+    } cases[] = {
+        {"", 0},       {"cats", 0},    {"12 cats", 12}, {" \t 12", 12},     {"-3.5kg", -3.5},
+        {"+7", 7},     {"1.2.3", 1.2}, {".5", 0.5},     {"5.", 5},          {".", 0},
+        {"-", 0},      {"- 5", 0},     {"1e3", 1000},   {"1E-2x", 0.01},    {"2e", 2},
+        {"2e+", 2},    {"2eggs", 2},   {"1 2", 1},      {"1,5", 1},         {"&H10", 0},
+        {"inf", 0},    {"nan", 0},     {"0x10", 0},     {"1e999", largest}, {"-1e999", -largest},
+        {"1e-999", 0}, {"\n5", 0},     {"00123", 123},  {"--5", 0},         {"5e-1e3", 0.5},
+    };
+    for (const auto& [text, number] : cases)
+        EXPECT_EQ(leadingNumber(QString::fromLatin1(text)), number) << '"' << text << '"';
+    EXPECT_EQ(leadingNumber(QStringLiteral("٣")), 0) << "digits of other scripts are no digits";
+    EXPECT_EQ(leadingNumber(QString(100'000, QLatin1Char('9'))), largest);
+}
+
+TEST(Values, RoundHalvesToTheEvenInteger)
+{
+    const std::pair<double, int> cases[] = {{0.5, 0},
+                                            {1.5, 2},
+                                            {2.5, 2},
+                                            {-0.5, 0},
+                                            {-1.5, -2},
+                                            {2.4999, 2},
+                                            {32767.4999, 32767},
+                                            {32766.5, 32766},
+                                            {-32768.5, -32768}};
+    for (const auto& [number, integer] : cases)
+        EXPECT_EQ(toInteger(number), integer) << number;
+    for (const double outside : {32767.5, -32768.6, 1e300, std::numeric_limits<double>::quiet_NaN()})
+        EXPECT_EQ(errorOf([&] { toInteger(outside); }), overflow) << outside;
+}
+
+TEST(Values, AreWrittenWithoutTrailingZeros)
+{
+    const std::pair<double, const char*> cases[] = {{0, "0"},
+                                                    {-0.0, "0"},
+                                                    {12, "12"},
+                                                    {0.5, "0.5"},
+                                                    {0.1 + 0.2, "0.3"},
+                                                    {1e15, "1E+15"},
+                                                    {-1.0 / 3, "-0.333333333333333"},
+                                                    {123456789012345, "123456789012345"}};
+    for (const auto& [number, text] : cases)
+        EXPECT_EQ(numberText(number), QString::fromLatin1(text));
+}
+
+TEST(Values, PadPositionsToFourDigits)
+{
+    const std::pair<double, const char*> cases[] = {{123, "0123"},  {85.9, "0085"},  {0, "0000"},
+                                                    {-12, "-0012"}, {-0.5, "-0001"}, {12345, "12345"}};
+    for (const auto& [coordinate, text] : cases)
+        EXPECT_EQ(positionText(coordinate), QString::fromLatin1(text));
+}
