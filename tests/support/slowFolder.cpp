@@ -51,8 +51,11 @@ int list(const char* path, void* buffer, fuse_fill_dir_t fill, off_t, fuse_file_
     DIR* folder = opendir(real(path).c_str());
     if (folder == nullptr)
         return -errno;
-    while (const dirent* entry = readdir(folder))
-        fill(buffer, entry->d_name, nullptr, 0, fuse_fill_dir_flags(0));
+    while (const dirent* entry = readdir(folder)) {
+        struct stat kind = {}; // as servers do, a listing tells folders from files
+        kind.st_mode = DTTOIF(entry->d_type);
+        fill(buffer, entry->d_name, &kind, 0, fuse_fill_dir_flags(0));
+    }
     closedir(folder);
     return 0;
 }
