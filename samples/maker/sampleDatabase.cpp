@@ -2,6 +2,7 @@
 
 #include "cardPicture.h"
 #include "monster.h"
+#include "voices.h"
 
 #include <QBuffer>
 #include <QCryptographicHash>
@@ -64,6 +65,11 @@ QByteArray bitmap(const QImage& picture)
     return buffer.data();
 }
 
+QByteArray soundOf(const SampleCard& card)
+{
+    return waveBytes(card["Sound"] == "call" ? callOf(monsterOf(card)) : voiceOf(card["Sound"]));
+}
+
 void removeOldCards(QDir folder)
 {
     for (const QString& name : folder.entryList({"*.tcd", "*.bmp", "*.snd"}, QDir::Files))
@@ -86,5 +92,7 @@ void writeSampleDatabase(const CardTable& table, const QString& svgFolder, const
             record += quoted(card[field.name]);
         writeLines(base + ".tcd", record);
         writeFile(base + ".bmp", bitmap(pictureOf(card, svgFolder)));
+        if (!card["Sound"].isEmpty())
+            writeFile(base + ".snd", soundOf(card));
     }
 }
