@@ -32,8 +32,8 @@ FOLDERS = {
 
 # The part of the path below src/, without its ending, in small letters -> floor.
 EXCEPTIONS = {
-    r"store/(loading|opening|opendatabase|fileform|newform|newdatabase)": "loading and opening",
-    r"core/(dispatch|commands|form1|startup|frmnewdoc|frmstlogo|exitform|menu)": "assembly",
+    r"store/(load\w*|open\w*|close\w*|tilecards|choose\w*|folderwalk|fileform|new\w*)": "loading and opening",
+    r"core/(dispatch|commands|menu\w*|form1|frmnewdoc|frmstlogo|exitform|startup|shutdown)": "assembly",
 }
 
 INCLUDE = re.compile(r'^\s*#\s*include\s+"([^"]+)"')

@@ -3,7 +3,9 @@ tests. A row names what must not be called, what to call instead, and who alone 
 
 import re
 
-DESKTOP = r"src/platform/(qt)?desktop\w*\.(cpp|h)"
+DESKTOP = r"src/platform/realDesktop\.(cpp|h)"
+PLATFORM = r"src/platform/\w+\.(cpp|h)"
+ENDS = r"src/(main|core/(startUp|shutDown))\.cpp"
 
 RULES = [
     (r"QMessageBox\b", "desktop.showMessage or desktop.ask", DESKTOP),
@@ -11,12 +13,12 @@ RULES = [
     (r"QInputDialog\b", "a form of our own", DESKTOP),
     (r"Q(Gui)?Application::beep\b", "desktop.beep", DESKTOP),
     (r"\bprocessEvents\b", "desktop.yield", DESKTOP),
-    (r"Q(Core|Gui)?Application::(exec|quit|exit)\b", "unloadAllForms", r"src/(main|core/startUp)\.cpp"),
+    (r"Q(Core|Gui)?Application::(exec|quit|exit)\b", "unloadAllForms", ENDS),
     (r"QRandomGenerator\b|\bs?rand\(\)|std::mt19937", "desktop.random", DESKTOP),
     (r"QDate(Time)?::current\w+", "desktop.today", DESKTOP),
     (r"QDesktopServices\b", "desktop.openDocument", DESKTOP),
     (r"QProcess\b", "desktop.startProgram", DESKTOP),
-    (r"QThread::\w*sleep|std::this_thread::sleep", "desktop.yield", DESKTOP + r"|src/platform/wavePlayer\.cpp"),
+    (r"QThread::\w*sleep|std::this_thread::sleep", "desktop.yield", PLATFORM),  # waiting for a file or a device, never for a pupil
 ]
 
 

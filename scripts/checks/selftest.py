@@ -16,7 +16,7 @@ SOUND = {
     "src/core/session.h": "#pragma once\n#include <QString>\n",
     "src/core/session.cpp": '#include "core/session.h"\n',
     "src/core/form1.cpp": '#include "tools/sort.h"\n#include "board/faces.h"\n',
-    "src/platform/desktop.cpp": "void ask() { QMessageBox::question(nullptr, {}, {}); }\n",
+    "src/platform/realDesktop.cpp": "void ask() { QMessageBox::question(nullptr, {}, {}); }\n",
     "src/board/faces.h": '#pragma once\n#include "core/session.h"\n',
     "src/board/faces.cpp": '#include "board/faces.h"\nconst char *icon = "yes%1.svg";\n',
     "src/store/opening.cpp": '#include "board/faces.h"\n',
