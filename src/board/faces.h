@@ -1,0 +1,6 @@
+// Card faces: the small picture of a card that lies on the board and stands in the table.
+#pragma once
+
+/// Draws the card's face on `shrinkdummy`, at that surface's measures: the picture in `Picture1` with the
+/// card's label over it, or the label alone on a strip. The card takes face, measures and tooltip from it.
+void drawCardFace(int card);

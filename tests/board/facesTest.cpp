@@ -1,0 +1,125 @@
+#include "board/faces.h"
+
+#include "core/session.h"
+#include "support/freshStart.h"
+
+namespace {
+
+bool isNear(QRgb one, QRgb other)
+{
+    const auto near = [](int a, int b) { return std::abs(a - b) < 110; };
+    return near(qRed(one), qRed(other)) && near(qGreen(one), qGreen(other)) && near(qBlue(one), qBlue(other));
+}
+
+/// The smallest rectangle, in device pixels, around all pixels of about that colour: edges are smoothed.
+QRect extentOf(const QImage& image, QRgb colour)
+{
+    QRect extent;
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            if (isNear(image.pixel(x, y), colour))
+                extent |= QRect(x, y, 1, 1);
+        }
+    }
+    return extent;
+}
+
+QImage plain(QSize size, QColor colour)
+{
+    QImage image(size, QImage::Format_RGB32);
+    image.fill(colour);
+    return image;
+}
+
+constexpr QRgb black = 0xff000000, blue = 0xff0000ff, red = 0xffff0000, white = 0xffffffff;
+
+class Faces : public Fresh {
+protected:
+    Faces()
+    {
+        session.numCards = 1;
+        session.cardSize = 1;
+        session.cardValue[1][1] = QStringLiteral("Ina");
+        session.ColText = QStringLiteral("255");
+    }
+    const QImage& face() const { return session.box[1].picture; }
+};
+
+} // namespace
+
+TEST_F(Faces, HaveTheSurfacesMeasuresInAFreshSessionAndNotTheCardSizes)
+{
+    session.cardSize = 0;
+    drawCardFace(1);
+    EXPECT_EQ(face().size(), QSize(82, 62));
+    EXPECT_EQ(session.box[1].width, 82);
+    EXPECT_EQ(session.box[1].height, 62);
+    EXPECT_EQ(session.box[1].tooltip, QStringLiteral("Ina"));
+    EXPECT_EQ(session.shrinkdummy.image, face());
+}
+
+TEST_F(Faces, StretchThePictureOverTheWholeCard)
+{
+    session.cardValue[1][1].clear();
+    QImage picture = plain(QSize(159, 120), Qt::yellow);
+    for (int y = 60; y < 120; ++y) {
+        for (int x = 0; x < 159; ++x)
+            picture.setPixel(x, y, blue);
+    }
+    session.Picture1.image = picture;
+    drawCardFace(1);
+    EXPECT_EQ(face().pixel(0, 0), QColor(Qt::yellow).rgb());
+    EXPECT_EQ(face().pixel(81, 61), blue);
+    EXPECT_NEAR(extentOf(face(), blue).top(), 31, 1);
+}
+
+TEST_F(Faces, ShowASmallPictureUnscaledInTheCornerOfAWhiteOne)
+{
+    session.cardValue[1][1].clear();
+    session.Picture1.image = plain(QSize(80, 60), Qt::blue); // half of the picture box
+    drawCardFace(1);
+    EXPECT_EQ(face().pixel(2, 2), blue);
+    EXPECT_EQ(face().pixel(60, 45), white);
+    EXPECT_NEAR(extentOf(face(), blue).right(), 41, 2);
+}
+
+TEST_F(Faces, PrintTheLabelInItsColourOverABlackShadow)
+{
+    session.Picture1.image = plain(QSize(159, 120), Qt::white);
+    drawCardFace(1);
+    const QRect label = extentOf(face(), red);
+    const QRect shadow = extentOf(face(), black);
+    ASSERT_FALSE(label.isEmpty());
+    EXPECT_NEAR(label.height(), 9, 1) << "capitals of ten points at 96 dots to the inch";
+    EXPECT_NEAR(shadow.right(), label.right() + 1, 1);
+    EXPECT_EQ(shadow.bottom(), label.bottom() + 1);
+
+    session.cardValue[1][1] = QString(40, QLatin1Char('W'));
+    drawCardFace(1);
+    EXPECT_GT(extentOf(face(), red).right(), 75) << "a long label runs to the card's edge";
+    EXPECT_EQ(session.box[1].tooltip.size(), 40);
+}
+
+TEST_F(Faces, OfStripsAreTheLabelAloneInBlack)
+{
+    session.cardSize = 2;
+    session.Picture1.image = plain(QSize(159, 120), Qt::red);
+    drawCardFace(1);
+    EXPECT_EQ(face().pixel(0, 0), blue) << "the point in the corner";
+    EXPECT_TRUE(extentOf(face(), red).isEmpty());
+    EXPECT_FALSE(extentOf(face(), black).isEmpty());
+    EXPECT_EQ(face().pixel(80, 60), white);
+}
+
+TEST_F(Faces, AreAsSharpAsTheScreen)
+{
+    session.Picture1.image = plain(QSize(159, 120), Qt::white);
+    drawCardFace(1);
+    const QRect single = extentOf(face(), red);
+    desktop.pixelRatio = [] { return 2.0; };
+    drawCardFace(1);
+    EXPECT_EQ(face().size(), QSize(164, 124));
+    EXPECT_EQ(face().devicePixelRatio(), 2);
+    EXPECT_EQ(session.box[1].width, 82);
+    EXPECT_NEAR(extentOf(face(), red).height(), 2 * single.height(), 2);
+}
