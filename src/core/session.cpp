@@ -1,5 +1,7 @@
 #include "core/session.h"
 
+#include <QPainter>
+
 #include <algorithm>
 #include <numeric>
 
@@ -10,6 +12,14 @@ Session::Session()
     box[0].left = 15; // the corner from which every tool lays cards out
     box[0].top = 40;
     andOr[0] = andOr[1] = QStringLiteral(" ");
+}
+
+QImage WorkPicture::shown() const
+{
+    QImage surface(width, height, QImage::Format_RGB32);
+    surface.fill(Qt::white);
+    QPainter(&surface).drawImage(QPoint(), image);
+    return surface;
 }
 
 CardStack::CardStack() { std::iota(order.begin(), order.end(), 0); }

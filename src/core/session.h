@@ -67,6 +67,9 @@ struct WorkPicture {
     int height = 0;
     QImage image; // null when the control is empty
     bool visible = true;
+
+    /// What the control shows: the image unscaled from the top left corner, cut at its edges, on white.
+    QImage shown() const;
 };
 
 /// The order in which cards lie over one another, the lowest first.
