@@ -1,0 +1,140 @@
+#include "platform/pictureFile.h"
+
+#include "platform/errors.h"
+#include "platform/wholeFile.h"
+
+#include <QBuffer>
+#include <QImageReader>
+#include <QPainter>
+#include <QtEndian>
+
+namespace {
+
+enum Compression : quint32 { uncompressed = 0, runLength8 = 1, runLength4 = 2, bitFields = 3 };
+
+constexpr int fileHeaderSize = 14;
+constexpr quint32 oldHeaderSize = 12; // its measures have 16 bits, the palette three bytes a colour
+constexpr quint32 plainHeaderSize = 40;
+
+/// The fields of a bitmap's headers that tell how long the file has to be.
+struct BitmapMeasures {
+    qint64 pixelsFrom = 0;
+    qint64 width = 0;
+    qint64 height = 0; // negative when the top row comes first
+    int bits = 0;
+    quint32 compression = uncompressed;
+
+    qint64 rowBytes() const { return (width * bits + 31) / 32 * 4; }
+    bool hasRunLengths() const { return compression == runLength8 || compression == runLength4; }
+};
+
+template <class T>
+T valueAt(const QByteArray& bytes, qsizetype offset)
+{
+    if (offset + qsizetype(sizeof(T)) > bytes.size())
+        throw RuntimeError(invalidPicture);
+    return qFromLittleEndian<T>(bytes.constData() + offset);
+}
+
+BitmapMeasures measuresOf(const QByteArray& file)
+{
+    BitmapMeasures found;
+    const auto headerSize = valueAt<quint32>(file, fileHeaderSize);
+    const bool old = headerSize == oldHeaderSize;
+    if (!old && headerSize < plainHeaderSize)
+        throw RuntimeError(invalidPicture);
+
+    quint32 colours = 0;
+    if (old) {
+        found.width = valueAt<quint16>(file, 18);
+        found.height = valueAt<quint16>(file, 20);
+        found.bits = valueAt<quint16>(file, 24);
+    } else {
+        found.width = valueAt<qint32>(file, 18);
+        found.height = valueAt<qint32>(file, 22);
+        found.bits = valueAt<quint16>(file, 28);
+        found.compression = valueAt<quint32>(file, 30);
+        colours = valueAt<quint32>(file, 46);
+    }
+    if (colours == 0 && found.bits <= 8)
+        colours = 1u << found.bits;
+    if (found.bits > 8)
+        colours = 0; // a palette would only be advice
+    const int masks = headerSize == plainHeaderSize && found.compression == bitFields ? 12 : 0;
+    const qint64 headersEnd = fileHeaderSize + qint64(headerSize) + masks + qint64(colours) * (old ? 3 : 4);
+    found.pixelsFrom = std::max<qint64>(valueAt<quint32>(file, 10), headersEnd);
+    return found;
+}
+
+/// Refuses a bitmap that is shorter than its headers ask for: Qt's reader leaves the missing rows as they
+/// come.
+void checkBitmap(const QByteArray& file)
+{
+    const BitmapMeasures bitmap = measuresOf(file);
+    const qint64 rows = std::abs(bitmap.height);
+    const qint64 longest = file.size();
+    if (bitmap.width <= 0 || rows == 0 || bitmap.width > longest * 255 || rows > longest * 255)
+        throw RuntimeError(invalidPicture);
+    const qint64 pixels = bitmap.hasRunLengths() ? 1 : bitmap.rowBytes() * rows;
+    if (bitmap.pixelsFrom + pixels > file.size())
+        throw RuntimeError(invalidPicture);
+}
+
+/// A picture of 32 bits whose programs left the fourth byte empty looks invisible; it was meant to be seen.
+void showWhenAllTransparent(QImage& picture)
+{
+    if (!picture.hasAlphaChannel())
+        return;
+    QImage inspected = picture.convertToFormat(QImage::Format_ARGB32);
+    for (int y = 0; y < inspected.height(); ++y) {
+        const auto* line = reinterpret_cast<const QRgb*>(inspected.constScanLine(y));
+        if (std::any_of(line, line + inspected.width(), [](QRgb pixel) { return qAlpha(pixel) != 0; }))
+            return;
+    }
+    for (int y = 0; y < inspected.height(); ++y) {
+        auto* line = reinterpret_cast<QRgb*>(inspected.scanLine(y));
+        std::for_each(line, line + inspected.width(), [](QRgb& pixel) { pixel |= 0xFF000000; });
+    }
+    picture = inspected.convertToFormat(QImage::Format_RGB32);
+}
+
+} // namespace
+
+QImage readPicture(const QString& path) { return decodePicture(readWholeFile(path)); }
+
+QImage decodePicture(const QByteArray& bytes)
+{
+    const bool bitmap = bytes.startsWith("BM");
+    if (bitmap)
+        checkBitmap(bytes);
+
+    QBuffer buffer;
+    buffer.setData(bytes);
+    buffer.open(QIODevice::ReadOnly);
+    QImageReader reader(&buffer);
+    // The reader fills a picture of the right kind that it is given. What a damaged file doesn't tell is then
+    // white, never what lay in memory before.
+    QImage picture;
+    const QSize size = reader.size();
+    if (size.isValid() && reader.imageFormat() != QImage::Format_Invalid &&
+        QImageIOHandler::allocateImage(size, reader.imageFormat(), &picture))
+        picture.fill(Qt::white);
+    if (!reader.read(&picture) || picture.isNull())
+        throw RuntimeError(invalidPicture);
+    if (bitmap)
+        showWhenAllTransparent(picture);
+    picture.setDevicePixelRatio(1);
+    return picture;
+}
+
+QByteArray bitmapBytes(const QImage& picture)
+{
+    QImage opaque(picture.size(), QImage::Format_RGB32);
+    opaque.fill(Qt::white);
+    QPainter(&opaque).drawImage(opaque.rect(), picture);
+    QBuffer buffer;
+    buffer.open(QIODevice::WriteOnly);
+    if (!opaque.save(&buffer, "BMP"))
+        throw RuntimeError(invalidPicture);
+    return buffer.data();
+}

@@ -1,0 +1,211 @@
+#include "platform/profileFile.h"
+
+#include "platform/errors.h"
+#include "platform/textFile.h"
+#include "platform/wholeFile.h"
+
+#include <QDeadlineTimer>
+#include <QFile>
+#include <QFileInfo>
+#include <QRegularExpression>
+#include <QStringList>
+#include <QThread>
+
+#include <cerrno>
+#include <optional>
+#include <sys/file.h>
+
+namespace {
+
+constexpr int longestValue = 199;
+constexpr int lockPatienceMs = 3000;
+constexpr int lockPauseMs = 10;
+const QString lineEnd = QStringLiteral("\r\n");
+
+/// The lines with their ends, so that what isn't changed is written as it was read.
+QStringList linesOf(const QString& text)
+{
+    QStringList lines;
+    for (qsizetype start = 0; start < text.size();) {
+        const qsizetype end = text.indexOf(QLatin1Char('\n'), start);
+        const qsizetype next = end < 0 ? text.size() : end + 1;
+        lines.append(text.sliced(start, next - start));
+        start = next;
+    }
+    return lines;
+}
+
+bool sameName(const QString& one, const QString& other)
+{
+    return one.trimmed().compare(other.trimmed(), Qt::CaseInsensitive) == 0;
+}
+
+/// The name when the line heads a section.
+std::optional<QString> sectionName(const QString& line)
+{
+    const QString content = line.trimmed();
+    const qsizetype end = content.indexOf(QLatin1Char(']'));
+    if (!content.startsWith(QLatin1Char('[')) || end < 0)
+        return std::nullopt;
+    return content.sliced(1, end - 1);
+}
+
+bool isKeyLine(const QString& line, const QString& key)
+{
+    const qsizetype equals = line.indexOf(QLatin1Char('='));
+    return equals >= 0 && !line.trimmed().startsWith(QLatin1Char(';')) && sameName(line.first(equals), key);
+}
+
+/// The lines of the first section of that name, without its head: from `begin` up to, not including, `end`.
+struct SectionLines {
+    qsizetype begin;
+    qsizetype end;
+};
+
+std::optional<SectionLines> findSection(const QStringList& lines, const QString& name)
+{
+    std::optional<SectionLines> found;
+    for (qsizetype i = 0; i < lines.size(); ++i) {
+        const auto head = sectionName(lines[i]);
+        if (head && found)
+            return SectionLines{found->begin, i};
+        if (head && sameName(*head, name))
+            found = SectionLines{i + 1, lines.size()};
+    }
+    return found;
+}
+
+QString withoutQuotes(const QString& value)
+{
+    const bool quoted = value.size() >= 2 && value.front() == value.back() &&
+                        (value.front() == QLatin1Char('"') || value.front() == QLatin1Char('\''));
+    return quoted ? value.sliced(1, value.size() - 2) : value;
+}
+
+QString withoutBlanksAtEnd(QString text)
+{
+    while (text.endsWith(QLatin1Char(' ')))
+        text.chop(1);
+    return text;
+}
+
+std::optional<QString> valueIn(const QStringList& lines, const QString& section, const QString& key)
+{
+    const auto place = findSection(lines, section);
+    if (!place)
+        return std::nullopt;
+    for (qsizetype i = place->begin; i < place->end; ++i) {
+        if (isKeyLine(lines[i], key))
+            return withoutQuotes(lines[i].sliced(lines[i].indexOf(QLatin1Char('=')) + 1).trimmed());
+    }
+    return std::nullopt;
+}
+
+/// So that a line can follow it.
+void endLastLine(QStringList& lines)
+{
+    if (!lines.isEmpty() && !lines.last().endsWith(QLatin1Char('\n')))
+        lines.last() += lineEnd;
+}
+
+void setValue(QStringList& lines, const QString& section, const QString& key, const QString& value)
+{
+    const QString line = key + QLatin1Char('=') + value + lineEnd;
+    const auto place = findSection(lines, section);
+    if (!place) {
+        endLastLine(lines);
+        lines << QLatin1Char('[') + section + QLatin1Char(']') + lineEnd << line;
+        return;
+    }
+    for (qsizetype i = place->begin; i < place->end; ++i) {
+        if (isKeyLine(lines[i], key)) {
+            lines[i] = lines[i].first(lines[i].indexOf(QLatin1Char('=')) + 1) + value + lineEnd;
+            return;
+        }
+    }
+    qsizetype after = place->end; // new keys come before the blank lines that part two sections
+    while (after > place->begin && lines[after - 1].trimmed().isEmpty())
+        --after;
+    if (after == lines.size())
+        endLastLine(lines);
+    lines.insert(after, line);
+}
+
+/// Keeps other programs from changing the file meanwhile. The system drops the lock with the process that
+/// held it, however that ends; the empty file beside the profile that it hangs on stays. Where that file
+/// can't be made the profile itself bears the lock, for there it is never replaced by another. A disk that
+/// knows no locks doesn't hinder writing.
+class ProfileLock {
+public:
+    explicit ProfileLock(const QString& path)
+        : file(QFileInfo(path).path() + QStringLiteral("/.") + QFileInfo(path).fileName() +
+               QStringLiteral(".lock"))
+    {
+        const bool isNew = !file.exists();
+        if (file.open(QIODevice::ReadWrite)) {
+            if (isNew && QFile::exists(path))
+                file.setPermissions(QFile::permissions(path)); // whoever may change the profile may lock it
+        } else if (!file.open(QIODevice::ReadOnly)) {
+            file.setFileName(path);
+            if (!file.open(QIODevice::ReadWrite | QIODevice::ExistingOnly))
+                return;
+        }
+        held = waitForLock();
+    }
+
+    bool isHeld() const { return held; }
+
+private:
+    bool waitForLock()
+    {
+        const QDeadlineTimer patience(lockPatienceMs);
+        while (flock(file.handle(), LOCK_EX | LOCK_NB) != 0) {
+            if (errno != EWOULDBLOCK && errno != EINTR)
+                return true;
+            if (patience.hasExpired())
+                return false;
+            QThread::msleep(lockPauseMs);
+        }
+        return true;
+    }
+
+    QFile file;
+    bool held = false;
+};
+
+QStringList linesOfFile(const QString& path)
+{
+    try {
+        return linesOf(decodeText(readWholeFile(path, largestTextFile)));
+    } catch (const RuntimeError& error) {
+        if (error.number() != fileNotFound)
+            throw;
+        return {};
+    }
+}
+
+} // namespace
+
+QString readProfile(const QString& section, const QString& key, const QString& absent, const QString& path)
+{
+    std::optional<QString> value;
+    ignoringErrors({[&] { value = valueIn(linesOfFile(path), section, key); }});
+    return value.value_or(withoutBlanksAtEnd(absent)).left(longestValue);
+}
+
+bool writeProfile(const QString& section, const QString& key, const QString& value, const QString& path)
+{
+    static const QRegularExpression breaks(QStringLiteral("[\\r\\n\\x00]"));
+    bool written = false;
+    ignoringErrors({[&] {
+        const ProfileLock lock(path);
+        if (!lock.isHeld())
+            return;
+        QStringList lines = linesOfFile(path);
+        setValue(lines, section, key, QString(value).replace(breaks, QStringLiteral(" ")));
+        replaceFile(path, encodeText(lines.join(QString())));
+        sweepLeftovers(QFileInfo(path).path());
+        written = true;
+    }});
+    return written;
+}

@@ -1,0 +1,161 @@
+#include "platform/pictureFile.h"
+
+#include "support/files.h"
+
+#include <QBuffer>
+#include <QtEndian>
+
+namespace {
+
+QImage sample(QImage::Format format = QImage::Format_RGB32)
+{
+    QImage picture(13, 7, QImage::Format_RGB32);
+    for (int y = 0; y < picture.height(); ++y) {
+        for (int x = 0; x < picture.width(); ++x)
+            picture.setPixel(x, y, qRgb(x * 19, y * 36, (x ^ y) * 16));
+    }
+    return picture.convertToFormat(format);
+}
+
+QByteArray encoded(const QImage& picture, const char* format)
+{
+    QBuffer buffer;
+    buffer.open(QIODevice::WriteOnly);
+    EXPECT_TRUE(picture.save(&buffer, format));
+    return buffer.data();
+}
+
+/// A bitmap put together field by field.
+struct Bitmap {
+    quint32 headerSize = 40;
+    qint32 width = 2;
+    qint32 height = 2;
+    quint16 bits = 24;
+    quint32 compression = 0;
+    QByteArray palette = {};
+    QByteArray pixels = QByteArray(16, '\x7F');
+    quint32 offset = 0; // 0: where the pixels are
+
+    QByteArray bytes() const
+    {
+        QByteArray file("BM");
+        const auto put = [&file](auto value) {
+            const auto little = qToLittleEndian(value);
+            file.append(reinterpret_cast<const char*>(&little), sizeof little);
+        };
+        put(quint32(0));
+        put(quint32(0));
+        put(offset ? offset : quint32(14 + headerSize + palette.size()));
+        put(headerSize);
+        put(width);
+        put(height);
+        put(quint16(1));
+        put(bits);
+        put(compression);
+        file.append(14 + headerSize - file.size(), '\0');
+        return file + palette + pixels;
+    }
+};
+
+} // namespace
+
+using PictureFile = Fresh;
+
+TEST_F(PictureFile, ABitmapReadsBackPixelForPixel)
+{
+    const QByteArray bytes = bitmapBytes(sample());
+    EXPECT_EQ(bytes.size(), 54 + 7 * 40) << "24 bits, plain header";
+    EXPECT_EQ(decodePicture(bytes).convertToFormat(QImage::Format_RGB32), sample());
+
+    QImage clear(2, 2, QImage::Format_ARGB32);
+    clear.fill(Qt::transparent);
+    EXPECT_EQ(decodePicture(bitmapBytes(clear)).pixelColor(1, 1), QColor(Qt::white));
+}
+
+TEST_F(PictureFile, GoesByContentAndTellsWhatIsMissing)
+{
+    const QString path = inTestFolder(QStringLiteral("picture.bmp"));
+    putFile(path, encoded(sample(), "PNG"));
+    EXPECT_EQ(readPicture(path).size(), QSize(13, 7));
+    putFile(path, "no picture");
+    EXPECT_EQ(errorOf([&] { readPicture(path); }), invalidPicture);
+    putFile(path, QByteArray());
+    EXPECT_EQ(errorOf([&] { readPicture(path); }), invalidPicture);
+    EXPECT_EQ(errorOf([] { readPicture(inTestFolder(QStringLiteral("none"))); }), fileNotFound);
+    EXPECT_EQ(errorOf([] { readPicture(inTestFolder(QStringLiteral("none/none"))); }), pathNotFound);
+}
+
+TEST_F(PictureFile, ABitmapCutShortAnywhereIsNone)
+{
+    for (const auto format : {QImage::Format_RGB32, QImage::Format_Indexed8, QImage::Format_Mono}) {
+        const QByteArray whole = encoded(sample(format), "BMP");
+        EXPECT_EQ(errorOf([&] { decodePicture(whole); }), 0);
+        for (qsizetype length = 0; length < whole.size(); ++length)
+            ASSERT_EQ(errorOf([&] { decodePicture(whole.first(length)); }), invalidPicture) << length;
+    }
+}
+
+TEST_F(PictureFile, HeadersThatAskForTooMuchAreRefused)
+{
+    const std::pair<const char*, Bitmap> cases[] = {
+        {"huge", {.width = 60000, .height = 60000}},
+        {"huge with run lengths", {.width = 60000, .height = 60000, .bits = 8, .compression = 1}},
+        {"largest measures", {.width = 0x7FFFFFFF, .height = -0x7FFFFFFF - 1}},
+        {"pixels beyond the file", {.offset = 100'000}},
+        {"pixels partly beyond it", {.offset = 60}},
+        {"no width", {.width = 0}},
+        {"negative width", {.width = -2}},
+        {"no height", {.height = 0}},
+        {"header of 16 bytes", {.headerSize = 16}},
+        {"header of no known size", {.headerSize = 41}},
+        {"palette missing", {.bits = 8}},
+    };
+    for (const auto& [name, bitmap] : cases)
+        EXPECT_EQ(errorOf([&, picture = &bitmap] { decodePicture(picture->bytes()); }), invalidPicture)
+            << name;
+    EXPECT_EQ(decodePicture(Bitmap{.height = -2}.bytes()).size(), QSize(2, 2)) << "the top row first";
+}
+
+TEST_F(PictureFile, AnEmptyAlphaIsTakenAsOpaque)
+{
+    // A header of version 4 with masks for blue, green, red and alpha; four pixels whose alpha is 0.
+    Bitmap bitmap{.headerSize = 108, .bits = 32, .compression = 3};
+    bitmap.pixels = QByteArray("\x10\x20\x30\x00", 4).repeated(4);
+    QByteArray bytes = bitmap.bytes();
+    const quint32 masks[] = {0xFF0000, 0xFF00, 0xFF, 0xFF000000};
+    bytes.replace(54, sizeof masks, reinterpret_cast<const char*>(masks), sizeof masks);
+    EXPECT_EQ(decodePicture(bytes).pixelColor(0, 0), QColor(0x30, 0x20, 0x10));
+
+    bytes[bytes.size() - 1] = '\x80';
+    EXPECT_EQ(decodePicture(bytes).pixelColor(0, 0).alpha(), 0) << "one that uses its alpha keeps it";
+}
+
+TEST_F(PictureFile, WhatADamagedFileDoesNotTellIsTheSameEveryTime)
+{
+    // Run lengths that end at once leave every pixel untold; other formats are cut in the middle.
+    const Bitmap ended{.width = 40,
+                       .height = 40,
+                       .bits = 8,
+                       .compression = 1,
+                       .palette = QByteArray(1024, 'p'),
+                       .pixels = QByteArray("\x00\x01", 2)};
+    QList<QByteArray> files = {ended.bytes()};
+    for (const char* format : {"PNG", "JPG", "PPM"}) {
+        const QByteArray whole = encoded(sample().scaled(200, 200), format);
+        files.append(whole.first(whole.size() / 2));
+    }
+    for (const QByteArray& file : files) {
+        std::vector<QImage> decodings;
+        for (const int filling : {0x11, 0xEE}) {
+            std::vector<QImage> dirt(20, QImage(40, 40, QImage::Format_ARGB32));
+            for (QImage& image : dirt)
+                image.fill(uint(filling) * 0x01010101u);
+            dirt.clear(); // leaves its pixels in the memory that comes next
+            ignoringErrors({[&] { decodings.push_back(decodePicture(file)); }});
+        }
+        if (decodings.size() == 2)
+            EXPECT_EQ(decodings[0], decodings[1]) << file.left(8).toStdString();
+        else
+            EXPECT_TRUE(decodings.empty());
+    }
+}

@@ -1,0 +1,170 @@
+#include "store/descriptionFile.h"
+
+#include "core/session.h"
+#include "platform/pictureFile.h"
+#include "support/files.h"
+
+namespace {
+
+const QString problem =
+    QStringLiteral("Error|There was a problem reading your database, some of the data may be missing");
+
+QString description() { return inTestFolder(QStringLiteral("db-info.tdb")); }
+
+/// Reads a description of those bytes and tells how many messages came; every one must be the routine's own.
+int problemsIn(const QByteArray& bytes)
+{
+    putFile(description(), bytes);
+    recorded.messages.clear();
+    recorded.beeps = 0;
+    readDbInfo();
+    EXPECT_EQ(recorded.messages.count(problem), recorded.messages.size());
+    EXPECT_EQ(recorded.beeps, recorded.messages.size());
+    return int(recorded.messages.size());
+}
+
+const QByteArray pets = " 2 \r\n 1 \r\n\"none\"\r\n"
+                        "\"Name\"\r\n\"Abc\"\r\nFalse\r\n"
+                        "\"Legs, or feet\"\r\n\"123\"\r\nTrue\r\n"
+                        "\"2\"\r\n\"4\"\r\n\"\"\r\n\"\"\r\n\"\"\r\n\"\"\r\n"
+                        "\"\"\r\n\"\"\r\n\"\"\r\n\"\"\r\n\"\"\r\n\"many\"\r\n"
+                        "RO\r\nVER=\"1.1.0\"\r\n";
+
+} // namespace
+
+class DescriptionFile : public Fresh {
+protected:
+    DescriptionFile() { session.dbPath = testFolder().chopped(1); }
+};
+
+TEST_F(DescriptionFile, FillsTheSessionAndIsWrittenBackByteForByte)
+{
+    session.fieldUseList[1] = true;
+    EXPECT_EQ(problemsIn(pets), 0);
+    EXPECT_EQ(session.numFields, 2);
+    EXPECT_EQ(session.cardSize, 1);
+    EXPECT_EQ(session.dbVersion, QStringLiteral("1.1.0"));
+    EXPECT_EQ(session.fieldName[2], QStringLiteral("Legs, or feet"));
+    EXPECT_EQ(session.fieldType[2], QStringLiteral("123"));
+    EXPECT_FALSE(session.fieldUseList[1]);
+    EXPECT_EQ(session.fieldListItem[2][12], QStringLiteral("many"));
+    EXPECT_EQ(session.editorFieldName[2], QStringLiteral("Legs, or feet"));
+    EXPECT_EQ(session.editorFieldName[3], QStringLiteral("Fieldname3"));
+    EXPECT_EQ(session.menuItemState[1][1], QStringLiteral("Don'tShow"));
+    EXPECT_TRUE(session.designReadOnly);
+
+    QFile::remove(description());
+    writeDbInfo();
+    EXPECT_EQ(bytesOf(description()), pets);
+}
+
+TEST_F(DescriptionFile, OfVersionOneIsUpgradedByWriting)
+{
+    EXPECT_EQ(
+        problemsIn(
+            "1\r\n0\r\n\"none\"\r\n\"Colour\"\r\n\"Abc\"\r\nTrue\r\n\"a\"\r\n\"b\"\r\n\"c\"\r\n\"d\"\r\n"
+            "\"e\"\r\n\"f\"\r\nsomething else\r\n"),
+        0);
+    EXPECT_EQ(session.dbVersion, QStringLiteral("1.0.0"));
+    EXPECT_EQ(session.fieldListItem[1][6], QStringLiteral("f"));
+    EXPECT_EQ(session.databaseStatus, QStringLiteral("something else"));
+    EXPECT_EQ(session.menuItemState[1][1], QStringLiteral("Show"));
+    writeDbInfo();
+    EXPECT_EQ(bytesOf(description()).count('\n'), 3 + 15 + 2);
+    EXPECT_TRUE(bytesOf(description())
+                    .endsWith("\"f\"\r\n\"\"\r\n\"\"\r\n\"\"\r\n\"\"\r\n\"\"\r\n\"\"\r\n"
+                              "something else\r\nVER=\"1.1.0\"\r\n"));
+}
+
+TEST_F(DescriptionFile, EveryFailedStatementIsToldOnceAndTheRestIsRead)
+{
+    const struct {
+        const char* name;
+        QByteArray bytes;
+        int problems;
+        int fields;
+        int size;
+    } cases[] = {
+        {"empty: three measures, three fields of three lines, the status", "", 13, 3, 1},
+        {"cut behind the card size", " 2 \r\n 2 \r\n", 1 + 6 + 1, 2, 2},
+        {"cut inside a list, which a file without version ends at six", pets.left(pets.indexOf("\"4\"")),
+         5 + 1, 2, 1},
+        {"thirteen fields", QByteArray(pets).replace(0, 3, " 13 "), 1 + 2, 3, 1},
+        {"no fields", QByteArray(pets).replace(0, 3, " 0 "), 1 + 2, 3, 1},
+        {"a count that is none", QByteArray(pets).replace(0, 3, "two"), 1 + 2, 3, 1},
+        {"a count beyond 16 bits", QByteArray(pets).replace(0, 3, " 70000 "), 1 + 2, 3, 1},
+        {"a card size out of range", QByteArray(pets).replace(" 1 ", " 3 "), 1, 2, 1},
+        {"a flag that is none", QByteArray(pets).replace("False", "Maybe"), 1, 2, 1},
+    };
+    for (const auto& [name, bytes, problems, fields, size] : cases) {
+        freshStart();
+        session.dbPath = testFolder().chopped(1);
+        session.cardSize = 1;
+        EXPECT_EQ(problemsIn(bytes), problems) << name;
+        EXPECT_EQ(session.numFields, fields) << name;
+        EXPECT_EQ(session.cardSize, size) << name;
+        EXPECT_EQ(session.backgroundPicture, QStringLiteral("none")) << name;
+    }
+}
+
+TEST_F(DescriptionFile, AMissingFileLeavesEverythingAsItWas)
+{
+    problemsIn(pets);
+    QFile::remove(description());
+    recorded.messages.clear();
+    readDbInfo();
+    EXPECT_EQ(recorded.messages.count(problem), 1 + 1 + 3 + 3 + (3 + 6) + 1);
+    EXPECT_EQ(session.fieldName[2], QStringLiteral("Legs, or feet"));
+    EXPECT_EQ(session.databaseStatus, QStringLiteral("RO"));
+    EXPECT_EQ(session.dbVersion, QStringLiteral("1.0.0"));
+}
+
+TEST_F(DescriptionFile, GarbageGivesABoundedRowOfMessages)
+{
+    const QByteArray garbage[] = {QByteArray(4 << 20, '\n'), QByteArray(4 << 20, '"'),
+                                  QByteArray(4 << 20, '\0'), QByteArray(4 << 20, ','),
+                                  QByteArray(100, '\xFF'),   QByteArray(5 << 20, 'x'),
+                                  "\xFF\xFE 2 \0\r\n"};
+    for (const QByteArray& bytes : garbage)
+        EXPECT_LE(problemsIn(bytes), 15);
+    EXPECT_EQ(session.numFields, 3);
+}
+
+TEST_F(DescriptionFile, AnotherBackgroundIsLoadedOnce)
+{
+    QImage map(3, 2, QImage::Format_RGB32);
+    map.fill(Qt::green);
+    putFile(inTestFolder(QStringLiteral("map.bmp")), bitmapBytes(map));
+    const auto withBackground = [](const QString& name) {
+        return QByteArray(pets).replace("none", name.toUtf8());
+    };
+    EXPECT_EQ(problemsIn(withBackground(inTestFolder(QStringLiteral("map.bmp")))), 0);
+    EXPECT_EQ(session.backgroundImage.size(), QSize(3, 2));
+    EXPECT_EQ(problemsIn(pets), 1) << "there is no picture called none";
+    EXPECT_EQ(session.backgroundPicture, QStringLiteral("none"));
+    EXPECT_EQ(session.backgroundImage.size(), QSize(3, 2)) << "the old picture stays";
+    EXPECT_EQ(problemsIn(pets), 0);
+    EXPECT_EQ(problemsIn(withBackground(QString())), 0);
+    EXPECT_TRUE(session.backgroundImage.isNull());
+    EXPECT_EQ(problemsIn(withBackground(QStringLiteral("map.bmp"))), 0) << "beside the description";
+    EXPECT_EQ(session.backgroundImage.size(), QSize(3, 2));
+}
+
+TEST_F(DescriptionFile, TextsOfOtherAlphabetsSurvive)
+{
+    problemsIn(pets);
+    session.fieldName[1] = QStringLiteral("Imię i świat");
+    session.fieldListItem[2][1] = QStringLiteral("日本");
+    writeDbInfo();
+    EXPECT_EQ(problemsIn(bytesOf(description())), 0);
+    EXPECT_EQ(session.fieldName[1], QStringLiteral("Imię i świat"));
+    EXPECT_EQ(session.fieldListItem[2][1], QStringLiteral("日本"));
+}
+
+TEST_F(DescriptionFile, AFailedWriteIsToldWithTheErrorsOwnText)
+{
+    session.dbPath = inTestFolder(QStringLiteral("gone"));
+    writeDbInfo();
+    EXPECT_EQ(recorded.messages, QStringList(QStringLiteral("Error|Path not found")));
+    EXPECT_EQ(session.dbVersion, QStringLiteral("1.1.0"));
+}
