@@ -32,8 +32,16 @@ RuntimeError::RuntimeError(int number)
 {
 }
 
+RuntimeError::RuntimeError(int number, const QString& description)
+    : code(number)
+    , ownDescription(description)
+{
+}
+
 QString RuntimeError::description() const
 {
+    if (!ownDescription.isEmpty())
+        return ownDescription;
     for (const auto& [number, text] : descriptions) {
         if (number == code)
             return QString::fromLatin1(text);

@@ -28,6 +28,8 @@ inline constexpr int invalidPicture = 481;
 class RuntimeError : public std::exception {
 public:
     explicit RuntimeError(int number);
+    /// With a description of its own.
+    RuntimeError(int number, const QString& description);
 
     int number() const { return code; }
     QString description() const;
@@ -35,6 +37,7 @@ public:
 
 private:
     int code;
+    QString ownDescription;
 };
 
 /// The description of whatever exception is being handled; to be called from a catch block only.

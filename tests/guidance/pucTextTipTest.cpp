@@ -1,0 +1,126 @@
+#include "guidance/pucTextTip.h"
+
+#include "platform/errors.h"
+#include "support/freshStart.h"
+
+#include <QSignalSpy>
+
+namespace {
+
+class TipBalloon : public Fresh {
+protected:
+    TipBalloon()
+    {
+        balloon.resize(200, 60);
+        balloon.show();
+    }
+    pucTextTip balloon{QStringLiteral("Tip1")};
+};
+
+QImage picture(int width)
+{
+    QImage image(width, 20, QImage::Format_RGB32);
+    image.fill(Qt::red);
+    return image;
+}
+
+const QString manyWords = QStringLiteral("a tip that runs on and on ").repeated(12);
+
+} // namespace
+
+TEST_F(TipBalloon, ANewOneShowsItsName)
+{
+    EXPECT_EQ(balloon.text(), QStringLiteral("Tip1"));
+    EXPECT_EQ(balloon.lblTip->text(), QStringLiteral("Tip1"));
+}
+
+TEST_F(TipBalloon, BothMarksBreakTheLineAndNothingElseIsMarkUp)
+{
+    balloon.setText(QStringLiteral("one<CR>two<B>three <b>&amp;</b>"));
+    EXPECT_EQ(balloon.text(), QStringLiteral("one<B>two<B>three <b>&amp;</b>"));
+    EXPECT_EQ(balloon.lblTip->text(), QStringLiteral("one\ntwo\nthree <b>&amp;</b>"));
+    EXPECT_EQ(balloon.txtTip->toPlainText(), balloon.lblTip->text());
+    EXPECT_EQ(balloon.lblTip->textFormat(), Qt::PlainText);
+}
+
+TEST_F(TipBalloon, ATextTooTallScrollsUntilThereIsRoomForIt)
+{
+    balloon.setText(manyWords);
+    EXPECT_TRUE(balloon.txtTip->isVisible());
+    EXPECT_FALSE(balloon.lblTip->isVisible());
+    EXPECT_EQ(balloon.txtTip->geometry(), QRect(8, 6, 184, 48));
+
+    balloon.resize(200, 900);
+    EXPECT_TRUE(balloon.lblTip->isVisible());
+    EXPECT_FALSE(balloon.txtTip->isVisible());
+
+    balloon.setText(QString());
+    EXPECT_TRUE(balloon.lblTip->text().isEmpty());
+}
+
+TEST_F(TipBalloon, APictureMovesTheTextAndWrapsItAnew)
+{
+    balloon.resize(200, 900);
+    balloon.setText(manyWords);
+    const int before = balloon.lblTip->height();
+    balloon.setPicture(picture(100));
+    EXPECT_EQ(balloon.imgPicture->pos(), QPoint(8, 6));
+    EXPECT_EQ(balloon.lblTip->x(), 116);
+    EXPECT_EQ(balloon.lblTip->width(), 76);
+    EXPECT_GT(balloon.lblTip->height(), before);
+
+    balloon.setPicture({});
+    EXPECT_EQ(balloon.lblTip->x(), 8);
+}
+
+TEST_F(TipBalloon, AFontMeasuresTheTextAnewAndNoFontIsRefused)
+{
+    balloon.resize(200, 900);
+    balloon.setText(manyWords);
+    const int before = balloon.lblTip->height();
+    QFont large = balloon.tipFont();
+    large.setPointSizeF(24);
+    balloon.setTipFont(large);
+    EXPECT_EQ(balloon.tipFont().pointSizeF(), 24);
+    EXPECT_GT(balloon.lblTip->height(), before);
+
+    try {
+        balloon.setTipFont({});
+        FAIL();
+    } catch (const RuntimeError& error) {
+        EXPECT_EQ(error.number(), invalidProperty);
+        EXPECT_EQ(error.description(), QStringLiteral("Cannot set Font to Nothing"));
+    }
+    EXPECT_EQ(balloon.tipFont().pointSizeF(), 24);
+}
+
+TEST_F(TipBalloon, IsLaidOutAsItWasKept)
+{
+    pucTextTip kept(QStringLiteral("Tip2"), nullptr,
+                    {QFont(QStringLiteral("Arial"), 20), picture(30), QString()});
+    kept.resize(200, 60);
+    EXPECT_TRUE(kept.text().isEmpty());
+    EXPECT_EQ(kept.tipFont().pointSizeF(), 20);
+    EXPECT_EQ(kept.lblTip->x(), 46);
+}
+
+TEST_F(TipBalloon, TheWindowBehindShowsThroughItsCorners)
+{
+    EXPECT_FALSE(balloon.mask().contains(QPoint(0, 0)));
+    EXPECT_FALSE(balloon.mask().contains(QPoint(199, 59)));
+    EXPECT_TRUE(balloon.mask().contains(QPoint(0, 30)));
+    EXPECT_TRUE(balloon.mask().contains(QPoint(3, 3)));
+}
+
+TEST_F(TipBalloon, TellsWhatWasSet)
+{
+    const QSignalSpy spy(&balloon, &pucTextTip::changed);
+    balloon.setText(QStringLiteral("new"));
+    balloon.setTipFont(QFont());
+    balloon.setPicture(picture(10));
+    QStringList told;
+    for (const auto& signal : spy)
+        told.append(signal.first().toString());
+    told.removeDuplicates();
+    EXPECT_EQ(told.join(QLatin1Char(' ')), QStringLiteral("Text Font Picture"));
+}
