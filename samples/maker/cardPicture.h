@@ -13,12 +13,10 @@ inline const QColor ink("#2B2B3A"), sky("#4FB3E8"), grass("#7AC943"), sun("#FFD8
 
 inline QPen inkPen(double width = 3) { return QPen(ink, width, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin); }
 
-/// An empty white picture, 24 colour bits, at 96 dots to the inch whatever the screen.
+/// An empty white picture, 24 colour bits.
 inline QImage blankPicture()
 {
     QImage picture(pictureSize, QImage::Format_RGB32);
-    picture.setDotsPerMeterX(3780);
-    picture.setDotsPerMeterY(3780);
     picture.fill(Qt::white);
     return picture;
 }

@@ -59,7 +59,7 @@ SampleCard readCard(const QStringList& cells, const QStringList& headings, const
     for (const SampleField& field : fields) {
         const QString value = card[field.name];
         bool isNumber = false;
-        value.toDouble(&isNumber);
+        static_cast<void>(value.toDouble(&isNumber));
         demand(!field.isNumber || isNumber, field.name + " is no number: " + value);
         demand(field.answers.isEmpty() || field.answers.contains(value),
                value + " is not in the list of " + field.name);

@@ -7,6 +7,7 @@
 #include <QPainterPath>
 #include <QtMath>
 
+#include <cmath>
 #include <stdexcept>
 
 namespace {
@@ -117,8 +118,11 @@ QPointF surface(const QPainterPath& body, QPointF start, QPointF step)
 
 void drawWings(QPainter& painter, const Figure& figure)
 {
-    const double room = middle - figure.frame.width() / 2;
+    const double room = middle - figure.frame.width() / 2; // to the edge of the picture
     const double size = qMin(qMax(25.0, figure.frame.height() * 0.62), room);
+    QPen pen = inkPen();
+    pen.setCosmetic(true);
+    painter.setPen(pen);
     painter.setBrush(QColor("#DDF1FB"));
     for (const int side : {1, -1}) {
         painter.save();
@@ -132,61 +136,62 @@ void drawWings(QPainter& painter, const Figure& figure)
         wing.cubicTo(0.54, 0.14, 0.4, 0.22, 0.2, 0.18);
         wing.cubicTo(0.05, 0.24, -0.1, 0.2, -0.25, 0.2);
         wing.closeSubpath();
-        QPen pen = inkPen(3);
-        pen.setCosmetic(true);
-        painter.setPen(pen);
         painter.drawPath(wing);
         painter.restore();
     }
 }
 
+/// Where the horns stand, in widths of the head from its middle.
+const QList<double> hornPlaces[] = {{}, {0}, {-0.31, 0.31}, {-0.44, 0, 0.44}, {-0.44, -0.15, 0.15, 0.44}};
+
 void drawHorns(QPainter& painter, const Figure& figure, int count)
 {
     const double size = qMax(10.0, figure.frame.height() * 0.2);
+    const double temples = figure.frame.top() + figure.frame.height() * 0.22;
+    const double head = 2 * (middle - surface(figure.body, {0, temples}, {0.5, 0}).x());
+    QPainterPath horn(QPointF(-size * 0.34, size * 0.35));
+    horn.quadTo(-size * 0.3, -size * 0.4, 0, -size);
+    horn.quadTo(size * 0.3, -size * 0.4, size * 0.34, size * 0.35);
+    horn.closeSubpath();
     painter.setPen(inkPen());
     painter.setBrush(QColor("#FFF0B8"));
-    for (int i = 0; i < count; ++i) {
-        const double place = i - (count - 1) / 2.0;
-        const double spread = count == 2 ? 0.52 : 0.84 / qMax(1, count - 1);
-        const double x = middle + place * spread * figure.frame.width() * (count == 2 ? 1 : 0.88);
+    for (const double place : hornPlaces[count]) {
         painter.save();
+        const double x = middle + place * head;
         painter.translate(surface(figure.body, {x, figure.frame.top() - 2}, {0, 0.5}));
-        painter.rotate(place * 24);
-        QPainterPath horn(QPointF(-size * 0.34, size * 0.35));
-        horn.quadTo(-size * 0.3, -size * 0.4, 0, -size);
-        horn.quadTo(size * 0.3, -size * 0.4, size * 0.34, size * 0.35);
-        horn.closeSubpath();
+        painter.rotate(place * 68);
         painter.drawPath(horn);
         painter.restore();
     }
 }
 
+/// An arm from `shoulder` to its hand at `end`; it sags a little.
+void drawArm(QPainter& painter, QPointF shoulder, QPointF end, const QColor& fill)
+{
+    QPainterPath arm(shoulder);
+    arm.quadTo(QPointF((shoulder.x() + end.x()) / 2, shoulder.y() + 5), end);
+    QPen pen = inkPen(8.5);
+    painter.strokePath(arm, pen);
+    painter.setPen(inkPen());
+    painter.setBrush(fill);
+    painter.drawEllipse(end, 4.6, 4.6);
+    pen.setColor(fill);
+    pen.setWidthF(3.5);
+    painter.strokePath(arm, pen);
+}
+
 void drawArms(QPainter& painter, const Figure& figure, int count)
 {
-    const double reach = qMax(15.0, figure.frame.height() * 0.3), hand = 4.6;
+    const double reach = qMax(15.0, figure.frame.height() * 0.3);
     for (const int side : {-1, 1}) {
         const int here = side < 0 ? (count + 1) / 2 : count / 2;
         for (int i = 0; i < here; ++i) {
-            const double place = i - (here - 1) / 2.0;
+            const double place = i - (here - 1) / 2.0; // 0 in the middle, the upper ones below it
             const double y = figure.frame.top() + figure.frame.height() * (0.62 + place * 0.2);
-            const QPointF shoulder =
-                surface(figure.body, {middle + side * 80, y}, {side * -0.5, 0}) - QPointF(side * 4, 0);
-            const double lift = here == 1 ? 0.25 : -place * 0.45 + 0.05;
-            const QPointF end = shoulder + QPointF(side * (reach + 4), -reach * lift * 1.4);
-            QPainterPath arm(shoulder);
-            arm.quadTo(QPointF((shoulder.x() + end.x()) / 2, shoulder.y() + 5), end);
-            QPen pen = inkPen(8.5);
-            painter.setBrush(Qt::NoBrush);
-            painter.setPen(pen);
-            painter.drawPath(arm);
-            painter.setPen(inkPen());
-            painter.setBrush(figure.fill);
-            painter.drawEllipse(end, hand, hand);
-            pen.setColor(figure.fill);
-            pen.setWidthF(3.5);
-            painter.setPen(pen);
-            painter.setBrush(Qt::NoBrush);
-            painter.drawPath(arm);
+            const double lift = here == 1 ? 0.35 : 0.07 - place * 0.63;
+            const QPointF skin = surface(figure.body, {middle + side * 80, y}, {side * -0.5, 0});
+            drawArm(painter, skin - QPointF(side * 4, 0), skin + QPointF(side * reach, -reach * lift),
+                    figure.fill);
         }
     }
 }
@@ -312,9 +317,9 @@ Monster monsterOf(const SampleCard& card)
 
 QImage drawMonster(const Monster& monster)
 {
-    if (monster.eyes < 1 || monster.eyes > 5 || monster.arms < 0 || monster.horns < 0)
-        throw std::runtime_error(
-            "a monster has one to five eyes, and arms and horns can't be fewer than none");
+    const auto within = [](int number, int least, int most) { return number >= least && number <= most; };
+    if (!within(monster.eyes, 1, 5) || !within(monster.arms, 0, 6) || !within(monster.horns, 0, 4))
+        throw std::runtime_error("a monster has one to five eyes, up to six arms and up to four horns");
     const Figure figure = figureOf(monster);
     QImage picture = blankPicture();
     QPainter painter(&picture);

@@ -4,40 +4,45 @@
 #include "monster.h"
 #include "voices.h"
 
-#include <QBuffer>
+#include "core/session.h"
+#include "platform/wholeFile.h"
+#include "store/cardFiles.h"
+#include "store/descriptionFile.h"
+#include "store/paths.h"
+
 #include <QCryptographicHash>
 #include <QDir>
-#include <QSaveFile>
 
 #include <stdexcept>
 
 namespace {
 
-QString quoted(const QString& text) { return '"' + text + '"'; }
+constexpr int onlyCard = 1; // of the session: the cards pass through it one by one
 
-void writeFile(const QString& path, const QByteArray& bytes)
+void openEmptyFolder(const QString& path)
 {
-    QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.flush() ||
-        !file.commit())
-        throw std::runtime_error("can't write " + path.toStdString());
+    QDir folder(path);
+    if (!folder.mkpath("."))
+        throw std::runtime_error("can't make " + path.toStdString());
+    for (const QString& name : folder.entryList({"*.tcd", "*.bmp", "*.snd"}, QDir::Files))
+        folder.remove(name);
+    session = {};
+    session.dbPath = path;
+    session.cardSize = 1;
 }
 
-void writeLines(const QString& path, const QStringList& lines)
+void describe(const QList<SampleField>& fields)
 {
-    writeFile(path, (lines.join("\r\n") + "\r\n").toLatin1());
-}
-
-QStringList description(const QList<SampleField>& fields)
-{
-    QStringList lines{QString(" %1 ").arg(fields.size()), " 1 ", quoted("none")};
-    for (const SampleField& field : fields) {
-        lines += {quoted(field.name), quoted(field.isNumber ? "123" : "Abc"),
-                  field.answers.isEmpty() ? "False" : "True"};
-        for (int i = 0; i < 12 && !field.answers.isEmpty(); ++i)
-            lines += quoted(field.answers.value(i));
+    session.numFields = fields.size();
+    for (int f = 1; f <= session.numFields; ++f) {
+        const SampleField& field = fields[f - 1];
+        session.fieldName[f] = field.name;
+        session.fieldType[f] = field.isNumber ? "123" : "Abc";
+        session.fieldUseList[f] = !field.answers.isEmpty();
+        for (int item = 1; item <= field.answers.size(); ++item)
+            session.fieldListItem[f][item] = field.answers[item - 1];
     }
-    return lines + QStringList{"RW", "VER=" + quoted("1.1.0")};
+    writeDbInfo();
 }
 
 /// Eight capitals that stay with the card whatever else changes in the table. They put the cards into an
@@ -58,41 +63,30 @@ QImage pictureOf(const SampleCard& card, const QString& svgFolder)
     return drawMonster(monsterOf(card));
 }
 
-QByteArray bitmap(const QImage& picture)
-{
-    QBuffer buffer;
-    picture.save(&buffer, "BMP");
-    return buffer.data();
-}
-
 QByteArray soundOf(const SampleCard& card)
 {
     return waveBytes(card["Sound"] == "call" ? callOf(monsterOf(card)) : voiceOf(card["Sound"]));
 }
 
-void removeOldCards(QDir folder)
+void writeCard(const SampleCard& card, const QString& id, const QString& svgFolder)
 {
-    for (const QString& name : folder.entryList({"*.tcd", "*.bmp", "*.snd"}, QDir::Files))
-        folder.remove(name);
+    session.cardId[onlyCard] = id;
+    session.cardValue[onlyCard][0] = "00000000"; // no place yet
+    for (int f = 1; f <= session.numFields; ++f)
+        session.DataBox[f] = card[session.fieldName[f]];
+    saveCardValues(onlyCard);
+    session.Picture1.image = pictureOf(card, svgFolder);
+    saveCardPicture(onlyCard);
+    if (!card["Sound"].isEmpty())
+        replaceFile(filePathIn(session.dbPath, id + ".snd"), soundOf(card));
 }
 
 } // namespace
 
 void writeSampleDatabase(const CardTable& table, const QString& svgFolder, const QString& outFolder)
 {
-    const QDir folder(QDir(outFolder).filePath(table.title));
-    if (!folder.mkpath("."))
-        throw std::runtime_error("can't make " + folder.path().toStdString());
-    removeOldCards(folder);
-    writeLines(folder.filePath("db-info.tdb"), description(table.fields));
-    for (const SampleCard& card : table.cards) {
-        const QString base = folder.filePath(cardIdOf(table.title, card[table.fields[0].name]));
-        QStringList record{quoted("00000000")};
-        for (const SampleField& field : table.fields)
-            record += quoted(card[field.name]);
-        writeLines(base + ".tcd", record);
-        writeFile(base + ".bmp", bitmap(pictureOf(card, svgFolder)));
-        if (!card["Sound"].isEmpty())
-            writeFile(base + ".snd", soundOf(card));
-    }
+    openEmptyFolder(QDir(outFolder).filePath(table.title));
+    describe(table.fields);
+    for (const SampleCard& card : table.cards)
+        writeCard(card, cardIdOf(table.title, card[table.fields[0].name]), svgFolder);
 }

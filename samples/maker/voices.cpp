@@ -5,6 +5,7 @@
 #include <QtEndian>
 #include <QtMath>
 
+#include <cmath>
 #include <random>
 #include <stdexcept>
 

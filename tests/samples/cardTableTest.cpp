@@ -1,0 +1,69 @@
+#include "cardTable.h"
+
+#include "support/files.h"
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+
+namespace {
+
+struct CardTables : Fresh {
+    /// The complaint about the table, empty when it can be read.
+    std::string complaint(const QByteArray& table)
+    {
+        putFile(inTestFolder("table.txt"), table);
+        try {
+            readCardTable(inTestFolder("table.txt"));
+            return {};
+        } catch (const std::runtime_error& error) {
+            return error.what();
+        }
+    }
+};
+
+const QByteArray start =
+    "# a note\r\ntitle: Fruit\r\nfield: Name; text\r\nfield: Colour; text; red, green\r\n"
+    "field: Weight g; number\r\n\r\nName ; Colour ; Weight g ; Note\r\n";
+
+} // namespace
+
+TEST_F(CardTables, AreReadAsATeacherWritesThem)
+{
+    putFile(inTestFolder("table.txt"), start + "Apple; green ; 120.5;\nÄpfelchen;red;7;small, sour\n");
+    const CardTable table = readCardTable(inTestFolder("table.txt"));
+    EXPECT_EQ(table.title, "Fruit");
+    ASSERT_EQ(table.fields.size(), 3);
+    EXPECT_THAT(table.fields[1].answers, ElementsAre("red", "green"));
+    EXPECT_TRUE(table.fields[2].isNumber);
+    ASSERT_EQ(table.cards.size(), 2);
+    EXPECT_EQ(table.cards[0]["Weight g"], "120.5");
+    EXPECT_EQ(table.cards[1]["Name"], QStringLiteral("Äpfelchen"));
+    EXPECT_EQ(table.cards[1]["Note"], "small, sour");
+}
+
+TEST_F(CardTables, NameTheLineThatIsWrong)
+{
+    const struct {
+        QByteArray table;
+        std::string told;
+    } faults[] = {
+        {start + "Apple; blue; 1;", "table.txt:8: blue is not in the list of Colour"},
+        {start + "Apple; red; heavy;", "table.txt:8: Weight g is no number: heavy"},
+        {start + "Apple; red; 1;\nApple; red; 2;", "table.txt:9: a name is missing or stands twice: Apple"},
+        {start + "Apple; red; 1", "table.txt:8: this row has more or fewer cells than the headings"},
+        {start + "\"Apple\"; red; 1;", "table.txt:8: a cell can't hold a double quote"},
+        {"title: Fruit\nfield: Name; words", "table.txt:2: a field's type is text or number"},
+        {"title: Fruit\nfield: Name; text\nName; Price", "table.txt:3: unexpected heading Price"},
+        {"field: Name; text\nName\nApple", "the table has no title"},
+        {start + QByteArray("\n").repeated(2) +
+             [] {
+                 QByteArray rows;
+                 for (int i = 0; i < 100; ++i)
+                     rows += "Fruit " + QByteArray::number(i) + "; red; 1;\n";
+                 return rows;
+             }(),
+         "a database has 99 cards at most"},
+    };
+    for (const auto& fault : faults)
+        EXPECT_THAT(complaint(fault.table), HasSubstr(fault.told));
+}
