@@ -16,6 +16,10 @@ Screen blankScreen()
     blank.openCard = [](int) {};
     blank.cardDropped = [](int) {};
     blank.openTeacherOptions = [] {};
+    blank.newDatabase = [] {};
+    blank.openDatabase = [] {};
+    blank.installTutorials = [] {};
+    blank.showClues = [] {};
     blank.command = [](const QString&) {};
     blank.setRefresh = [](const QString&) {};
     return blank;

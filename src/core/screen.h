@@ -31,6 +31,10 @@ struct Screen {
     std::function<void(int card)> openCard;
     std::function<void(int card)> cardDropped;
     std::function<void()> openTeacherOptions;
+    std::function<void()> newDatabase;
+    std::function<void()> openDatabase;
+    std::function<void()> installTutorials;
+    std::function<void()> showClues;
     std::function<void(const QString& word)> command;
     std::function<void(const QString& word)> setRefresh;
 };
