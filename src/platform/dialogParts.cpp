@@ -1,0 +1,45 @@
+#include "platform/dialogParts.h"
+
+#include "platform/desktop.h"
+#include "platform/errors.h"
+#include "platform/picture.h"
+
+#include <QIcon>
+
+QLabel* words(const QString& text, const char* role)
+{
+    auto* label = new QLabel(text);
+    label->setTextFormat(Qt::PlainText);
+    label->setWordWrap(true);
+    label->setProperty("role", QLatin1String(role));
+    return label;
+}
+
+QLabel* pictureLabel(const QString& name, QSize size)
+{
+    auto* label = new QLabel;
+    label->setPixmap(picture(name, size));
+    return label;
+}
+
+void onClick(QAbstractButton* button, const std::function<void()>& handler)
+{
+    QObject::connect(button, &QAbstractButton::clicked, button, [handler] { guarded(handler); });
+}
+
+QPushButton* videoButton(const QString& tutorial)
+{
+    auto* button = named(new QPushButton(QStringLiteral("Watch a video")), "BtnVid");
+    button->setIcon(QIcon(picturePath(QStringLiteral("welcomeVideo"))));
+    button->setProperty("role", QStringLiteral("video"));
+    button->setAutoDefault(false);
+    onClick(button, [tutorial] { ignoringErrors({[&] { startTutorial(tutorial); }}); });
+    return button;
+}
+
+void startTutorial(const QString& tutorial)
+{
+    desktop.startProgram(desktop.programFolder() + QStringLiteral("/Videos/") + tutorial +
+                             QStringLiteral(".exe"),
+                         {QStringLiteral("/shc")});
+}

@@ -1,0 +1,30 @@
+// Small parts that the dialogs are put together from.
+#pragma once
+
+#include <QLabel>
+#include <QPushButton>
+
+#include <functional>
+
+/// Gives the control its name, by which style sheet and tests find it.
+template <class Control>
+Control* named(Control* control, const char* name)
+{
+    control->setObjectName(QLatin1String(name));
+    return control;
+}
+
+/// A label in one of the style sheet's roles: "heading", "subHeading", "explanation". Plain text, wrapped.
+QLabel* words(const QString& text, const char* role = "");
+
+/// A label that shows a picture and that assistive technology passes over.
+QLabel* pictureLabel(const QString& name, QSize size);
+
+/// Runs the handler at every click; an error ends it in the general error box.
+void onClick(QAbstractButton* button, const std::function<void()>& handler);
+
+/// "Watch a video": starts the tutorial of that name ("Entering Data") and passes over any error.
+QPushButton* videoButton(const QString& tutorial);
+
+/// Starts the tutorial of that name. Raises 53 when it can't be started.
+void startTutorial(const QString& tutorial);

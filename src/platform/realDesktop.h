@@ -1,0 +1,5 @@
+// The desktop as it really is: Qt's dialogs, clipboard, printers and folders behind the seam.
+#pragma once
+
+/// Sets every function of `desktop`. Needs the QApplication.
+void installDesktop();
