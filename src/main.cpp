@@ -1,8 +1,10 @@
-// The program: everything happens in the main window's events.
+// The program.
+#include "core/startUp.h"
+
 #include <QApplication>
 
 int main(int argc, char** argv)
 {
-    QApplication application(argc, argv);
-    return 0;
+    const QApplication application(argc, argv);
+    return runTallymoor();
 }

@@ -1,0 +1,193 @@
+#include "core/Form1.h"
+
+#include "core/screen.h"
+#include "core/session.h"
+#include "core/shutDown.h"
+#include "core/startValues.h"
+#include "core/title.h"
+#include "core/windowLayout.h"
+#include "platform/balloon.h"
+#include "platform/desktop.h"
+#include "platform/dialogParts.h"
+#include "platform/errors.h"
+#include "platform/forms.h"
+#include "platform/picture.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QHBoxLayout>
+#include <QIcon>
+#include <QKeyEvent>
+
+namespace {
+
+constexpr QSize leastSize(640, 400);
+constexpr int menuPlaceWidth = 288;
+constexpr int headingTop = 4; // 60 twips
+constexpr std::array<std::pair<const char*, int>, 4> headings = {
+    {{"File", 4},
+     {"Card", 68},
+     {"Data", 136 + 4},
+     {"Help", 208}}};             // left in pixels: 60, 1020, 2100, 3120 twips
+constexpr int TmrShowTime = 3000; // ms
+
+QPushButton* bandButton(const char* name, const QString& pictureName, const QString& spokenName)
+{
+    auto* button = named(new QPushButton, name);
+    button->setIcon(QIcon(picturePath(pictureName)));
+    button->setAccessibleName(spokenName);
+    giveHint(*button, spokenName);
+    return button;
+}
+
+QPushButton* modeButton(const char* name, const char* tag, const QString& pictureName,
+                        const QString& spokenName)
+{
+    auto* button = bandButton(name, pictureName, spokenName);
+    button->setCheckable(true);
+    button->setProperty("Tag", QLatin1String(tag));
+    return button;
+}
+
+void follow(QWidget& control, const ControlState& state)
+{
+    control.setVisible(state.visible);
+    control.setEnabled(state.enabled);
+    if (auto* button = qobject_cast<QAbstractButton*>(&control); button && button->isCheckable())
+        button->setChecked(state.pressed);
+}
+
+/// Ctrl and Shift with the teacher's letter, and no other key held.
+bool opensTeacherOptions(const QKeyEvent& key)
+{
+    return key.modifiers() == (Qt::ControlModifier | Qt::ShiftModifier) &&
+           QString(QChar(key.key())).toUpper() == session.keysValue;
+}
+
+void showInWindow()
+{
+    screen.showTitle = [] {
+        if (isLoaded<Form1>())
+            form<Form1>().setWindowTitle(session.title);
+    };
+    screen.showControls = [] {
+        if (isLoaded<Form1>())
+            form<Form1>().showControls();
+    };
+    screen.showHint = [](const QString& text) {
+        if (isLoaded<Form1>())
+            showHint(form<Form1>(), text);
+    };
+    screen.hideHints = endHint;
+}
+
+} // namespace
+
+Form1::Form1()
+    : board(named(new QWidget(this), "board"))
+    , toolbarBlock(named(new QWidget(this), "toolbarBlock"))
+    , menuPlace(named(new QWidget, "menuPlace"))
+    , btnCards(modeButton("btnCards", "card", QStringLiteral("modeCards"), QStringLiteral("Card Mode")))
+    , btnTable(modeButton("btnTable", "table", QStringLiteral("modeTable"), QStringLiteral("Table Mode")))
+    , PicRef(named(pictureLabel(QStringLiteral("refresh"), {28, 28}), "PicRef"))
+    , refreshCheck(named(new QCheckBox(QStringLiteral("Refresh Database")), "refreshCheck"))
+    , cmdQuestion(bandButton("cmdQuestion", QStringLiteral("clue"), QStringLiteral("Show Clues")))
+    , cmdCopyGraph(named(new QPushButton(QStringLiteral("Copy Graph")), "cmdCopyGraph"))
+    , tablePanel(named(new QWidget(this), "tablePanel"))
+    , TmrShow(named(new QTimer(this), "TmrShow"))
+{
+    setMinimumSize(leastSize);
+    tablePanel->hide();
+    fillBand();
+    connectControls();
+    TmrShow->setSingleShot(true);
+    TmrShow->setInterval(TmrShowTime);
+}
+
+void Form1::fillBand()
+{
+    menuPlace->setFixedSize(menuPlaceWidth, menuGreyLine);
+    for (std::size_t m = 0; m < headings.size(); ++m) {
+        MenuTop[m] = new QLabel(QLatin1String(headings[m].first), menuPlace);
+        MenuTop[m]->setObjectName(QStringLiteral("menuHeading"));
+        MenuTop[m]->move(headings[m].second, headingTop);
+    }
+    auto* row = new QHBoxLayout(toolbarBlock);
+    row->setContentsMargins({});
+    row->addWidget(menuPlace);
+    for (QWidget* control :
+         std::initializer_list<QWidget*>{btnCards, btnTable, PicRef, refreshCheck, cmdQuestion, cmdCopyGraph})
+        row->addWidget(control);
+    row->addStretch();
+}
+
+void Form1::connectControls()
+{
+    onClick(refreshCheck, [this] {
+        ::screen.setRefresh(refreshCheck->isChecked() ? QStringLiteral("On") : QStringLiteral("Off"));
+        showControls();
+    });
+    onClick(cmdQuestion, [] { ::screen.showClues(); });
+    qApp->installEventFilter(this); // the window sees every key before the control that has the focus
+}
+
+void Form1::load()
+{
+    showInWindow();
+    setControlsAtStart();
+    setTitle(titleWithoutDatabase());
+    desktop.setBusyPointer(false);
+    showControls();
+}
+
+void Form1::layoutWindow()
+{
+    try {
+        const WindowLayout place = windowLayout(size(), desktop.screenSize().width());
+        toolbarBlock->setGeometry(place.toolbarBlock);
+        tablePanel->setGeometry(place.tablePanel);
+    } catch (const RuntimeError&) {
+        desktop.showMessage(MessageIcon::exclamation, QStringLiteral("Tallymoor"),
+                            QStringLiteral("You cannot resize Tallymoor to this size!"));
+    }
+}
+
+void Form1::showControls()
+{
+    for (std::size_t m = 0; m < MenuTop.size(); ++m)
+        follow(*MenuTop[m], session.MenuTop[int(m)]);
+    follow(*btnCards, session.btnCards);
+    follow(*btnTable, session.btnTable);
+    follow(*PicRef, session.PicRef);
+    follow(*refreshCheck, session.refreshCheck);
+    follow(*cmdQuestion, session.cmdQuestion);
+    follow(*cmdCopyGraph, session.cmdCopyGraph);
+    follow(*tablePanel, session.tablePanel);
+}
+
+void Form1::resizeEvent(QResizeEvent*)
+{
+    board->resize(size());
+    session.boardWidth = width();
+    session.boardHeight = height();
+    guarded([this] { layoutWindow(); });
+}
+
+void Form1::closeEvent(QCloseEvent* event)
+{
+    guarded(shutDown);
+    event->accept();
+}
+
+bool Form1::eventFilter(QObject* watched, QEvent* event)
+{
+    auto* control = qobject_cast<QWidget*>(watched);
+    if (event->type() != QEvent::KeyPress || !control || control->window() != this ||
+        !opensTeacherOptions(*static_cast<QKeyEvent*>(event)))
+        return false;
+    guarded([] {
+        ::screen.setRefresh(QStringLiteral("Off"));
+        ::screen.openTeacherOptions();
+    });
+    return true;
+}

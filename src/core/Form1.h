@@ -1,0 +1,45 @@
+// The main window: the board over its whole area, the menu's band, and the table and the chart below the
+// band.
+#pragma once
+
+#include <QCheckBox>
+#include <QLabel>
+#include <QPushButton>
+#include <QTimer>
+#include <QWidget>
+
+#include <array>
+
+class Form1 : public QWidget {
+    Q_OBJECT
+public:
+    Form1();
+    void load();
+
+    /// Lays the window's parts out for its size; tells when it is too small for them.
+    void layoutWindow();
+    /// The controls take their states in the session.
+    void showControls();
+
+    QWidget* const board;
+    QWidget* const toolbarBlock;
+    QWidget* const menuPlace; // the part of the band that the menu's headings lie in
+    std::array<QLabel*, 4> MenuTop;
+    QPushButton* const btnCards;
+    QPushButton* const btnTable;
+    QLabel* const PicRef;
+    QCheckBox* const refreshCheck;
+    QPushButton* const cmdQuestion;
+    QPushButton* const cmdCopyGraph;
+    QWidget* const tablePanel;
+    QTimer* const TmrShow;
+
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void fillBand();
+    void connectControls();
+};

@@ -1,0 +1,151 @@
+#include "core/frmNewDoc.h"
+
+#include "core/screen.h"
+#include "core/shutDown.h"
+#include "platform/desktop.h"
+#include "platform/dialogParts.h"
+#include "platform/errors.h"
+#include "platform/forms.h"
+#include "platform/picture.h"
+
+#include <QEvent>
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QIcon>
+#include <QPainter>
+#include <QStyle>
+#include <QVBoxLayout>
+
+namespace {
+
+constexpr auto overview = "Oview";
+
+/// Shows the folder's beginning and end when there is no room for all of it.
+class PathLabel : public QLabel {
+public:
+    PathLabel()
+    {
+        setTextFormat(Qt::PlainText);
+        setProperty("role", QStringLiteral("explanation"));
+        setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    }
+
+protected:
+    void paintEvent(QPaintEvent*) override
+    {
+        QPainter painter(this);
+        style()->drawItemText(
+            &painter, contentsRect(), Qt::AlignLeft | Qt::AlignVCenter, palette(), isEnabled(),
+            fontMetrics().elidedText(text(), Qt::ElideMiddle, contentsRect().width()), foregroundRole());
+    }
+};
+
+QRadioButton* choice(const char* name, const QString& caption)
+{
+    return named(new QRadioButton(caption), name);
+}
+
+void watchOverview()
+{
+    bool started = false;
+    ignoringErrors({[&] {
+        startTutorial(QLatin1String(overview));
+        started = true;
+    }});
+    if (started)
+        return;
+    desktop.beep();
+    if (desktop.ask(QStringLiteral("Confirm"),
+                    QStringLiteral("It appears you have not installed the Video Tutorials.\n"
+                                   "Would you like to install them now?")))
+        screen.installTutorials();
+}
+
+} // namespace
+
+frmNewDoc::frmNewDoc()
+    : AnswerDialog(
+          new AnswerButtons({"BtnOK", QStringLiteral("OK")}, {"Btncancel", QStringLiteral("Cancel")}))
+    , Option1(choice("Option1", QStringLiteral("Start a new Database")))
+    , Option2(choice("Option2", QStringLiteral("Open an existing Database")))
+    , Option3(choice("Option3", QStringLiteral("Watch a video on how to make a Database")))
+    , Option4(choice("Option4", QStringLiteral("Open last Database")))
+    , lblPath(named(new PathLabel, "lblPath"))
+{
+    setWindowTitle(QStringLiteral("Welcome to Tallymoor"));
+    auto* grid = new QGridLayout(this);
+    grid->addWidget(pictureLabel(QStringLiteral("welcome"), {176, 220}), 0, 0, 3, 1, Qt::AlignTop);
+    grid->addWidget(words(QStringLiteral("Welcome To Tallymoor"), "heading"), 0, 1);
+    grid->addWidget(words(QStringLiteral("Please make a selection from the list below..."), "subHeading"), 1,
+                    1);
+    grid->addWidget(choices(), 2, 1);
+    auto* lowest = new QHBoxLayout;
+    lowest->addWidget(videoButton(QLatin1String(overview)));
+    lowest->addStretch();
+    lowest->addWidget(answers);
+    grid->addLayout(lowest, 3, 0, 1, 2);
+
+    onClick(answers->cancel, [] { unload<frmNewDoc>(); });
+    // The steps may open dialogs of their own: whoever pressed the button mustn't wait for those.
+    connect(
+        answers->ok, &QPushButton::clicked, this, [this] { guarded([this] { begin(); }); },
+        Qt::QueuedConnection);
+}
+
+QGroupBox* frmNewDoc::choices()
+{
+    auto* frame = new QGroupBox(QStringLiteral("Please select to..."));
+    auto* grid = new QGridLayout(frame);
+    grid->setVerticalSpacing(0);
+    const auto explain = [](const char* text) { return words(QLatin1String(text), "explanation"); };
+    addChoice(*grid, Option1, "welcomeNew",
+              explain("Create a new database on this machine or over the network."));
+    addChoice(*grid, Option2, "welcomeOpen",
+              explain("Open an existing database on this machine or over the network."));
+    addChoice(*grid, Option3, "welcomeVideo",
+              explain("Watch a video on how to create or open a database. (Recommended)"));
+    addChoice(*grid, Option4, "welcomeLast", lblPath);
+    return frame;
+}
+
+void frmNewDoc::addChoice(QGridLayout& grid, QRadioButton* option, const char* pictureName,
+                          QLabel* explanation)
+{
+    const int row = grid.rowCount();
+    option->setIcon(QIcon(picturePath(QLatin1String(pictureName))));
+    option->setAccessibleDescription(explanation->text());
+    option->installEventFilter(this);
+    grid.addWidget(option, row, 0);
+    grid.addWidget(explanation, row + 1, 0);
+}
+
+void frmNewDoc::load()
+{
+    const bool known = !TxtPath.isEmpty();
+    lblPath->setText(known ? TxtPath : QStringLiteral("No last Database"));
+    lblPath->setEnabled(known);
+    Option4->setEnabled(known);
+    Option4->setAccessibleDescription(lblPath->text());
+}
+
+bool frmNewDoc::eventFilter(QObject*, QEvent* event)
+{
+    if (event->type() == QEvent::MouseButtonDblClick)
+        answers->ok->click();
+    return false;
+}
+
+void frmNewDoc::begin()
+{
+    if (Option1->isChecked()) {
+        unload<frmNewDoc>();
+        ::screen.newDatabase();
+    } else if (Option2->isChecked()) {
+        unload<frmNewDoc>();
+        endingOnError(::screen.openDatabase);
+    } else if (Option3->isChecked()) {
+        watchOverview();
+    } else if (Option4->isChecked()) {
+        unload<frmNewDoc>();
+    }
+}

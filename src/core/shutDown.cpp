@@ -1,0 +1,22 @@
+#include "core/shutDown.h"
+
+#include "core/session.h"
+#include "platform/errors.h"
+#include "platform/forms.h"
+
+#include <QCoreApplication>
+
+void shutDown()
+{
+    session.animationStopped = true; // a run that yields to us finds no board any more
+    unloadAllForms();
+    QCoreApplication::exit();
+}
+
+bool endingOnError(const std::function<void()>& routine)
+{
+    if (withErrorBox(routine))
+        return true;
+    shutDown();
+    return false;
+}
