@@ -13,7 +13,7 @@ RULES = [
     (r"QInputDialog\b", "a form of our own", DESKTOP),
     (r"Q(Gui)?Application::beep\b", "desktop.beep", DESKTOP),
     (r"\bprocessEvents\b", "desktop.yield", DESKTOP),
-    (r"Q(Core|Gui)?Application::(exec|quit|exit)\b", "unloadAllForms", ENDS),
+    (r"Q(Core|Gui)?Application::(exec|quit|exit)\b", "shutDown", ENDS),
     (r"QRandomGenerator\b|\bs?rand\(\)|std::mt19937", "desktop.random", DESKTOP),
     (r"QDate(Time)?::current\w+", "desktop.today", DESKTOP),
     (r"QDesktopServices\b", "desktop.openDocument", DESKTOP),
