@@ -1,7 +1,8 @@
 // Work that may have to wait for a slow disk or share, done beside the session's thread so that windows go on
 // answering.
 //
-// The work itself touches nothing of the session; what follows from its result is done back on the session's thread.
+// The work itself touches nothing of the session; what follows from its result is done back on the session's
+// thread.
 #pragma once
 
 #include "platform/errors.h"
@@ -22,8 +23,8 @@ public:
     ~Errands() override; // waits for nobody: an errand stuck in a dead share ends when the share lets go
 
     /// Runs `work(forgotten)` on another thread, up to four at a time, begun in the order they were sent.
-    /// `then(result)` runs here, from the event loop, unless forget() came first. Work that raises an error gives
-    /// an empty result.
+    /// `then(result)` runs here, from the event loop, unless forget() came first. Work that raises an error
+    /// gives an empty result.
     template <class Work, class Then>
     void send(Work work, Then then)
     {
@@ -37,7 +38,8 @@ public:
 
     /// Takes back the errands that have not begun yet.
     void forgetWaiting();
-    /// Nothing that was sent so far comes back. Errands sent from now on don't wait for what is still under way.
+    /// Nothing that was sent so far comes back. Errands sent from now on don't wait for what is still under
+    /// way.
     void forget();
 
 private:

@@ -2,8 +2,8 @@
 //
 //     slowFolder DELAY_MS SOURCE MOUNTPOINT
 //
-// shows SOURCE at MOUNTPOINT, reading and writing, until it is told to stop or the mount is taken away. It says
-// "ready" when calls are answered.
+// shows SOURCE at MOUNTPOINT, reading and writing, until it is told to stop or the mount is taken away. It
+// says "ready" when calls are answered.
 #define FUSE_USE_VERSION 31
 #include <fuse3/fuse.h>
 

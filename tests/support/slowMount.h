@@ -7,8 +7,8 @@
 
 class SlowMount {
 public:
-    /// Shows `source` at path(), each call to it taking `delayMs`. Where this machine can't do that, path() is
-    /// empty and reason() tells why: the test has to skip, saying so.
+    /// Shows `source` at path(), each call to it taking `delayMs`. Where this machine can't do that, path()
+    /// is empty and reason() tells why: the test has to skip, saying so.
     SlowMount(int delayMs, const QString& source);
     ~SlowMount();
     SlowMount(const SlowMount&) = delete;
