@@ -43,7 +43,7 @@ PLANTED = [
     ({"resources/lonely.svg": "<svg/>\n"}, unused.faults, "resources/lonely.svg"),
     ({"tests/odd/other.bmp": "BM"}, unused.faults, "tests/odd/other.bmp"),
     ({"docs/notes.md": "as the speci" + "fication says\n"}, words.faults, "docs/notes.md:1"),
-    ({"src/tools/sort.cpp": '// see /ho' + 'me/anna/cards\n'}, words.faults, "src/tools/sort.cpp:1"),
+    ({"src/tools/sort.cpp": f"// see {pathlib.Path.home()}/cards\n"}, words.faults, "src/tools/sort.cpp:1"),
     ({"src/tools/sort.cpp": "int  f( ){return 1;}\n"}, tools.badly_formatted, "src/tools/sort.cpp"),
     ({"src/tools/sort.cpp": "int f()\n{\n  int a[2] = {};\n  return a[2];\n}\n"}, tools.cppcheck, "arrayIndexOutOfBounds"),
 ]

@@ -45,7 +45,7 @@ def cppcheck(tree, files):
     yield from complaints(tree, run(
         tree, "cppcheck", "--quiet", "--std=c++20", "--language=c++", "--library=qt", "--library=googletest",
         "--enable=warning,performance,portability", "--inline-suppr", "--error-exitcode=1", "-Isrc",
-        "--suppress=missingInclude", "--suppress=unknownMacro", "--suppress=internalAstError",
+        "--suppress=missingInclude", "--suppress=unknownMacro", "--suppress=ignoredReturnValue",
         f"--cppcheck-build-dir={cache}", f"-j{os.cpu_count()}",
         "--template={file}:{line}: {severity}: {message} [{id}]", *sources(files)))
 
@@ -63,9 +63,10 @@ def compile_commands(tree):
 
 
 def clang_tidy(tree, files):
-    """Looks at each changed source, and at a changed header through the source of its name."""
+    """Looks at each source of the program, and at a header through the source of its name. The tests are left to the
+    compiler, cppcheck and the sanitizers: with GoogleTest's headers each would cost as much as two sources."""
     units = sorted({str(pathlib.PurePath(f).with_suffix(".cpp")) for f in sources(files)})
-    units = [u for u in units if (tree.root / u).is_file()]
+    units = [u for u in units if (tree.root / u).is_file() and not u.startswith("tests/")]
     if not units:
         return
     prepared = compile_commands(tree)
