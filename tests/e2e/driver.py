@@ -135,9 +135,14 @@ class Tour:
         number = self.window(title)
         edges = self.desk.run("xprop", "-id", number, "_NET_FRAME_EXTENTS").split("=")[1].split(",")
         bar = int(edges[2])  # left, right, top, bottom
-        place = dict(re.findall(r"(Absolute upper-left [XY]|Width): +(-?\d+)", self.desk.run("xwininfo", "-id", number)))
-        left, top, width = (int(place[k]) for k in ("Absolute upper-left X", "Absolute upper-left Y", "Width"))
+        left, top, width, _ = self._client(number)
         self.click((left + width - bar // 2, top - bar // 2))
+
+    def _client(self, number):
+        """Left, top, width and height of a window without its frame."""
+        told = dict(re.findall(r"(Absolute upper-left [XY]|Width|Height): +(-?\d+)",
+                               self.desk.run("xwininfo", "-id", number)))
+        return tuple(int(told[key]) for key in ("Absolute upper-left X", "Absolute upper-left Y", "Width", "Height"))
 
     # Mouse and keys
 
@@ -158,6 +163,21 @@ class Tour:
         steps = [(x + by[0] * i // 4, y + by[1] * i // 4) for i in (1, 2, 3, 4)]
         moves = [word for step in steps for word in ("mousemove", *map(str, step))]
         self.desk.run("xdotool", "mousemove", str(x), str(y), "mousedown", str(button), *moves, "mouseup", str(button))
+
+    def drop_file(self, path, where):
+        """Drags a file from a window of another program onto a part, or a place on the screen, where it is taken."""
+        x, y = where if isinstance(where, tuple) else where.centre
+        said = self.desk.folder / "drop.log"
+        said.unlink(missing_ok=True)
+        self.desk.start(str(self._source / "drop_source"), str(path), log=said)
+        left, top, _, _ = self._client(self.window("Drop source"))
+        mouse = [(left + 60, top + 30), (left + 80, top + 30), (left + 100, top + 30), (x - 10, y), (x - 5, y), (x, y)]
+        for step, (to_x, to_y) in enumerate(mouse):
+            self.desk.run("xdotool", "mousemove", str(to_x), str(to_y), *(("mousedown", "1") if step == 0 else ()),
+                          "sleep", "0.1")  # the drag's own protocol needs a moment for each answer
+        self.desk.run("xdotool", "mouseup", "1")
+        answer = self.wait_until(lambda: re.search("taken|refused", said.read_text()), "the end of the drag")
+        self.check(answer[0] == "taken", f"nobody took {path}")
 
     def key(self, *keys):
         """Presses keys one after the other: "Return", "ctrl+shift+k"."""

@@ -1,0 +1,54 @@
+// drop_source FILE: a window from which the file can be dragged with the mouse, as from a file manager. Ends
+// with the drag: with 0 when somebody took the file, else with 1.
+
+#include <QApplication>
+#include <QDrag>
+#include <QLabel>
+#include <QMimeData>
+#include <QMouseEvent>
+#include <QScreen>
+#include <QTextStream>
+#include <QUrl>
+
+namespace {
+
+class DropSource : public QLabel {
+public:
+    explicit DropSource(const QString& file)
+        : QLabel(QUrl::fromLocalFile(file).fileName())
+        , url(QUrl::fromLocalFile(file))
+    {
+        setWindowTitle(QStringLiteral("Drop source"));
+        setFixedSize(160, 60);
+        move(screen()->availableGeometry().bottomRight() -
+             rect().bottomRight()); // out of the way of what is dropped on
+    }
+
+protected:
+    void mouseMoveEvent(QMouseEvent* event) override
+    {
+        if (!event->buttons().testFlag(Qt::LeftButton))
+            return;
+        auto* data = new QMimeData;
+        data->setUrls({url});
+        auto* drag = new QDrag(this);
+        drag->setMimeData(data);
+        const Qt::DropAction action = drag->exec(Qt::CopyAction);
+        hide();
+        QTextStream(stdout) << (action == Qt::CopyAction ? "taken" : "refused") << Qt::endl;
+    }
+
+private:
+    QUrl url;
+};
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    const QApplication application(argc, argv);
+    QApplication::setQuitOnLastWindowClosed(false);
+    DropSource source(QApplication::arguments().value(1));
+    source.show();
+    return QApplication::exec();
+}
