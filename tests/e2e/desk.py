@@ -16,19 +16,19 @@ SCREEN = (1280, 800)
 PATIENCE = 30  # seconds until a wait counts as failed; a loaded machine may need most of it
 
 
-class Timeout(Exception):
-    """What was waited for did not come."""
+class Failed(Exception):
+    """Something that the tour needs did not come or did not work."""
 
 
 def wait_until(condition, what, timeout=PATIENCE):
-    """The first true answer of `condition`, asked again and again; Timeout says `what` when none comes."""
+    """The first true answer of `condition`, asked again and again; Failed says `what` when none comes."""
     end = time.monotonic() + timeout
     while True:
         answer = condition()
         if answer:
             return answer
         if time.monotonic() > end:
-            raise Timeout(f"waited {timeout} s for {what}")
+            raise Failed(f"waited {timeout} s for {what}")
         time.sleep(0.02)
 
 
@@ -105,7 +105,7 @@ class Desk:
         with open(reading, encoding="ascii") as pipe:
             line = pipe.readline().strip()
         if not line:
-            raise Timeout(f"{command[0]} did not start")
+            raise Failed(f"{command[0]} did not start")
         return line
 
     def run(self, *command, check=True):
@@ -113,7 +113,7 @@ class Desk:
         result = subprocess.run(command, env=self.environment, stdin=subprocess.DEVNULL, stdout=subprocess.PIPE,
                                 stderr=subprocess.STDOUT, text=True, timeout=PATIENCE)
         if check and result.returncode:
-            raise Timeout(f"{' '.join(command)}: {result.stdout.strip()}")
+            raise Failed(f"{' '.join(command)}: {result.stdout.strip()}")
         return result.stdout
 
     def picture(self, path):

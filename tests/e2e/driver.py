@@ -19,7 +19,7 @@ import subprocess
 import sys
 
 import reader
-from desk import PATIENCE, Desk, Ear, Timeout, wait_until
+from desk import PATIENCE, Desk, Ear, Failed, wait_until
 
 HOUSE = pathlib.Path(__file__).resolve().parents[2]
 sys.path.insert(0, str(HOUSE / "scripts"))
@@ -86,15 +86,15 @@ class Tour:
         try:
             code = self._process.wait(PATIENCE)
         except subprocess.TimeoutExpired:
-            raise Timeout("waited for the program to end") from None
+            raise Failed("waited for the program to end") from None
         if code:
-            raise AssertionError(f"the program ended with {code}")
+            raise Failed(f"the program ended with {code}")
 
     def wait_until(self, condition, what, timeout=PATIENCE):
         """The first true answer of `condition`; a part of a window that vanishes under it counts as no answer."""
         def asked():
             if self._process and self._process.poll() is not None:
-                raise AssertionError(f"the program ended with {self._process.returncode} while waiting for {what}")
+                raise Failed(f"the program ended with {self._process.returncode} while waiting for {what}")
             try:
                 return condition()
             except reader.Gone:
@@ -103,22 +103,30 @@ class Tour:
 
     def check(self, holds, what):
         if not holds:
-            raise AssertionError(what)
+            raise Failed(what)
 
     # Its windows
 
     def window(self, title):
         """Waits for the window whose title contains `title`, brings it to the front and gives its X number."""
-        def search():
-            return self.desk.run("xdotool", "search", "--onlyvisible", "--name", title, check=False).split()
-        number = self.wait_until(search, f'the window "{title}"')[-1]
-        self.desk.run("xdotool", "windowactivate", "--sync", number)
-        return number
+        def raised():
+            number = next(reversed(self._window_numbers(title)), None)
+            try:
+                if number:
+                    self.desk.run("xdotool", "windowactivate", "--sync", number)
+                return number
+            except Failed:  # it went between the two commands
+                return None
+        return self.wait_until(raised, f'the window "{title}"')
 
     def windows(self):
         """The titles of all windows that show."""
-        numbers = self.desk.run("xdotool", "search", "--onlyvisible", "--name", ".", check=False).split()
-        return [self.desk.run("xdotool", "getwindowname", number, check=False).strip() for number in numbers]
+        return [self.desk.run("xdotool", "getwindowname", number, check=False).strip()
+                for number in self._window_numbers(".")]
+
+    def _window_numbers(self, title):
+        said = self.desk.run("xdotool", "search", "--onlyvisible", "--name", title, check=False)
+        return re.findall(r"^\d+$", said, re.MULTILINE)
 
     def all(self, role, name=None, within=None):
         """Every showing part of that role, and name if one is given, in the program or within another part."""
@@ -203,7 +211,7 @@ class Tour:
             for name, label in self.card_labels(database).items():
                 if (database / f"{name}.snd").exists():
                     return database, label
-        raise AssertionError("no sample card has a sound")
+        raise Failed("no sample card has a sound")
 
     # What came of it
 

@@ -29,10 +29,10 @@ protected:
     {
         if (!event->buttons().testFlag(Qt::LeftButton))
             return;
-        auto* data = new QMimeData;
-        data->setUrls({url});
+        auto* dragged = new QMimeData;
+        dragged->setUrls({url});
         auto* drag = new QDrag(this);
-        drag->setMimeData(data);
+        drag->setMimeData(dragged);
         const Qt::DropAction action = drag->exec(Qt::CopyAction);
         hide();
         QTextStream(stdout) << (action == Qt::CopyAction ? "taken" : "refused") << Qt::endl;
