@@ -4,6 +4,7 @@
 #include "support/soundServer.h"
 
 #include <QElapsedTimer>
+#include <QTest>
 
 #include <cmath>
 #include <numbers>
@@ -11,6 +12,7 @@
 namespace {
 
 constexpr int heardRate = 44100;
+constexpr int patience = 15'000; // ms
 
 /// A tone of that many hertz, mono.
 Wave tone(double hertz, double seconds, int rate, int bits)
@@ -72,7 +74,7 @@ TEST_F(Playing, AWaveFileIsHeardAtItsPitchFromItsFirstToItsLastMoment)
         clock.start();
         playWaveFile(fileWith(waveBytes(wave)));
         EXPECT_LT(clock.elapsed(), 500) << "the pupil had to wait";
-        ASSERT_TRUE(waitUntil([&] { return heard.began() && heard.silentFor(0.3); }));
+        ASSERT_TRUE(QTest::qWaitFor([&] { return heard.began() && heard.silentFor(0.3); }, patience));
         const bool low = wave.bits == 16;
         EXPECT_NEAR(heard.seconds(), low ? 0.7 : 1.6, 0.03);
         EXPECT_NEAR(heard.hertz(), low ? 440 : 700, 12);
@@ -84,9 +86,9 @@ TEST_F(Playing, ASecondSoundBreaksOffTheFirst)
     SoundServer server;
     Heard heard{{}, server};
     playWaveFile(fileWith(waveBytes(tone(300, 30, 11025, 8))));
-    ASSERT_TRUE(waitUntil([&] { return heard.began(); }));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return heard.began(); }, patience));
     playWaveFile(fileWith(waveBytes(tone(900, 0.5, 11025, 8))));
-    ASSERT_TRUE(waitUntil([&] { return heard.silentFor(0.5); }));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return heard.silentFor(0.5); }, patience));
     EXPECT_LT(heard.seconds(), 5);
 }
 
@@ -98,12 +100,12 @@ TEST_F(Playing, APauseHoldsTheSoundAndItsEndIsTold)
     bool finished = false;
     QObject::connect(&player, &WavePlayer::finished, [&] { finished = true; });
     ASSERT_TRUE(player.play(tone(440, 2.5, 11025, 8)));
-    ASSERT_TRUE(waitUntil([&] { return heard.began(); }));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return heard.began(); }, patience));
     player.pause();
-    ASSERT_TRUE(waitUntil([&] { return heard.silentFor(1.5); }));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return heard.silentFor(1.5); }, patience));
     EXPECT_FALSE(finished);
     player.resume();
-    ASSERT_TRUE(waitUntil([&] { return finished; }));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return finished; }, patience));
     EXPECT_FALSE(player.isPlaying());
     heard.listen();
     EXPECT_GT(heard.seconds(), 3.9) << "the sound and the pause in it";
@@ -117,9 +119,9 @@ TEST_F(Playing, ADyingServerEndsTheSound)
     bool finished = false;
     QObject::connect(&player, &WavePlayer::finished, [&] { finished = true; });
     ASSERT_TRUE(player.play(tone(440, 30, 11025, 8)));
-    ASSERT_TRUE(waitUntil([&] { return heard.began(); }));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return heard.began(); }, patience));
     server.kill();
-    EXPECT_TRUE(waitUntil([&] { return finished; }));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return finished; }, patience));
     EXPECT_FALSE(player.isPlaying());
 }
 

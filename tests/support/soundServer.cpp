@@ -2,9 +2,8 @@
 
 #include <gtest/gtest.h>
 
-#include <QCoreApplication>
-#include <QElapsedTimer>
 #include <QLocalSocket>
+#include <QTest>
 
 namespace {
 
@@ -30,14 +29,16 @@ SoundServer::SoundServer()
                   QStringLiteral("--disable-shm=yes"), QStringLiteral("--log-level=error"),
                   QStringLiteral("--load=module-native-protocol-unix auth-anonymous=1 socket=") + socket,
                   QStringLiteral("--load=module-null-sink sink_name=speaker norewinds=1")});
-    EXPECT_TRUE(waitUntil([&] { return accepts(socket); })) << "no sound server; is pulseaudio installed?";
+    EXPECT_TRUE(QTest::qWaitFor([&] { return accepts(socket); }))
+        << "no sound server; is pulseaudio installed?";
 
     qputenv("PULSE_SERVER", "unix:" + socket.toLocal8Bit());
     ear.start(QStringLiteral("parecord"),
               {QStringLiteral("-d"), QStringLiteral("speaker.monitor"), QStringLiteral("--raw"),
                QStringLiteral("--format=s16le"), QStringLiteral("--rate=44100"),
                QStringLiteral("--channels=1"), QStringLiteral("--latency-msec=20")});
-    EXPECT_TRUE(waitUntil([&] { return ear.bytesAvailable() > 0; })) << "nothing is heard, not even silence";
+    EXPECT_TRUE(QTest::qWaitFor([&] { return ear.bytesAvailable() > 0; }))
+        << "nothing is heard, not even silence";
     heard();
 }
 
@@ -61,16 +62,4 @@ std::vector<qint16> SoundServer::heard()
     std::vector<qint16> samples(size_t(bytes.size() / 2));
     memcpy(samples.data(), bytes.constData(), samples.size() * 2);
     return samples;
-}
-
-bool waitUntil(const std::function<bool()>& condition, int seconds)
-{
-    QElapsedTimer clock;
-    clock.start();
-    while (!condition()) {
-        if (clock.hasExpired(1000 * seconds))
-            return false;
-        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents | QEventLoop::AllEvents, 20);
-    }
-    return true;
 }

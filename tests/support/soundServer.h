@@ -26,6 +26,3 @@ private:
     QProcess server;
     QProcess ear;
 };
-
-/// Lets everything go on until `condition` holds. False after `seconds`.
-bool waitUntil(const std::function<bool()>& condition, int seconds = 10);
