@@ -1,5 +1,6 @@
 #include "core/Form1.h"
 
+#include "core/dispatch.h"
 #include "core/screen.h"
 #include "core/session.h"
 #include "core/shutDown.h"
@@ -22,13 +23,6 @@
 namespace {
 
 constexpr QSize leastSize(640, 400);
-constexpr int menuPlaceWidth = 288;
-constexpr int headingTop = 4; // 60 twips
-constexpr std::array<std::pair<const char*, int>, 4> headings = {
-    {{"File", 4},
-     {"Card", 68},
-     {"Data", 136 + 4},
-     {"Help", 208}}};             // left in pixels: 60, 1020, 2100, 3120 twips
 constexpr int TmrShowTime = 3000; // ms
 
 QPushButton* bandButton(const char* name, const QString& pictureName, const QString& spokenName)
@@ -79,6 +73,7 @@ void showInWindow()
             showHint(form<Form1>(), text);
     };
     screen.hideHints = endHint;
+    screen.command = runCommand;
 }
 
 } // namespace
@@ -86,7 +81,7 @@ void showInWindow()
 Form1::Form1()
     : board(named(new QWidget(this), "board"))
     , toolbarBlock(named(new QWidget(this), "toolbarBlock"))
-    , menuPlace(named(new QWidget, "menuPlace"))
+    , menuBar(new MenuBar(this))
     , btnCards(modeButton("btnCards", "card", QStringLiteral("modeCards"), QStringLiteral("Card Mode")))
     , btnTable(modeButton("btnTable", "table", QStringLiteral("modeTable"), QStringLiteral("Table Mode")))
     , PicRef(named(pictureLabel(QStringLiteral("refresh"), {28, 28}), "PicRef"))
@@ -106,15 +101,9 @@ Form1::Form1()
 
 void Form1::fillBand()
 {
-    menuPlace->setFixedSize(menuPlaceWidth, menuGreyLine);
-    for (std::size_t m = 0; m < headings.size(); ++m) {
-        MenuTop[m] = new QLabel(QLatin1String(headings[m].first), menuPlace);
-        MenuTop[m]->setObjectName(QStringLiteral("menuHeading"));
-        MenuTop[m]->move(headings[m].second, headingTop);
-    }
     auto* row = new QHBoxLayout(toolbarBlock);
     row->setContentsMargins({});
-    row->addWidget(menuPlace);
+    row->addWidget(menuBar);
     for (QWidget* control :
          std::initializer_list<QWidget*>{btnCards, btnTable, PicRef, refreshCheck, cmdQuestion, cmdCopyGraph})
         row->addWidget(control);
@@ -154,8 +143,7 @@ void Form1::layoutWindow()
 
 void Form1::showControls()
 {
-    for (std::size_t m = 0; m < MenuTop.size(); ++m)
-        follow(*MenuTop[m], session.MenuTop[int(m)]);
+    menuBar->showState();
     follow(*btnCards, session.btnCards);
     follow(*btnTable, session.btnTable);
     follow(*PicRef, session.PicRef);

@@ -2,13 +2,13 @@
 // band.
 #pragma once
 
+#include "core/menuBar.h"
+
 #include <QCheckBox>
 #include <QLabel>
 #include <QPushButton>
 #include <QTimer>
 #include <QWidget>
-
-#include <array>
 
 class Form1 : public QWidget {
     Q_OBJECT
@@ -23,8 +23,7 @@ public:
 
     QWidget* const board;
     QWidget* const toolbarBlock;
-    QWidget* const menuPlace; // the part of the band that the menu's headings lie in
-    std::array<QLabel*, 4> MenuTop;
+    MenuBar* const menuBar;
     QPushButton* const btnCards;
     QPushButton* const btnTable;
     QLabel* const PicRef;

@@ -183,6 +183,7 @@ struct Session {
     // Controls of the main window that routines switch
     QString title;
     Table<ControlState, 3> MenuTop;
+    Table<ControlState, 5> menuCaption; // the lines of the open menu
     ControlState btnCards;
     ControlState btnTable;
     ControlState refreshCheck;

@@ -1,5 +1,6 @@
 #include "core/startValues.h"
 
+#include "core/menu.h"
 #include "core/session.h"
 #include "platform/desktop.h"
 #include "platform/values.h"
@@ -44,6 +45,8 @@ void setStartValues()
     session.twipsPerPixelY = toInteger(desktop.twipsPerPixelY());
     session.sortDirection = QStringLiteral("ABC");
     clearDatabase();
+    fillMenuTables();
+    session.menuItemState[0][2] = QStringLiteral("IfSelect"); // nothing to print yet
     session.animationSpeed = 1;
     session.printScale = 0.08;
 }
