@@ -26,7 +26,7 @@ TEST_F(WholeFile, RaisesWhatAFileCannotGive)
         {"folder", pathAccessError}, {"pipe", pathAccessError},
     };
     for (const auto& [name, error] : cases)
-        EXPECT_EQ(errorOf([&] { readWholeFile(place(name)); }), error) << name;
+        EXPECT_EQ(errorOf([path = place(name)] { readWholeFile(path); }), error) << name;
     EXPECT_EQ(errorOf([] { readWholeFile(place("plain"), 4); }), outOfMemory);
 }
 
