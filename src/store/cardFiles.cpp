@@ -57,9 +57,9 @@ void loadCardPicture(int card)
         withErrorBox([card] { session.Picture1.image = readPicture(cardPicturePath(card)); });
 }
 
-void showCardPicture(const QByteArray& bytes)
+bool showCardPicture(const QByteArray& bytes)
 {
-    withErrorBox([&bytes] { session.Picture1.image = decodePicture(bytes); });
+    return withErrorBox([&bytes] { session.Picture1.image = decodePicture(bytes); });
 }
 
 void saveCardPicture(int card)

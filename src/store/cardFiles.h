@@ -22,8 +22,8 @@ QString cardPicturePath(int card);
 /// the error box, `Picture1` shows what it did before.
 void loadCardPicture(int card);
 
-/// The same with bytes that were read before: those of a picture file.
-void showCardPicture(const QByteArray& bytes);
+/// The same with bytes that were read before: those of a picture file. False when they are no picture.
+bool showCardPicture(const QByteArray& bytes);
 
 /// Writes what `Picture1` shows as the card's picture, unless cards are strips. A failure is told in the
 /// error box.

@@ -3,6 +3,7 @@
 #include "core/screen.h"
 #include "core/session.h"
 #include "platform/forms.h"
+#include "store/loading.h"
 
 #include <QCoreApplication>
 #include <QDialog>
@@ -97,6 +98,7 @@ void freshStart()
     session = {};
     screen = blankScreen();
     recorded = {};
+    forgetLoadedFaces();
     folder = std::make_unique<QTemporaryDir>();
     desktop = recordingDesktop();
     modalLoop = answerPrepared;

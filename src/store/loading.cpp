@@ -1,0 +1,210 @@
+#include "store/loading.h"
+
+#include "board/faces.h"
+#include "board/places.h"
+#include "core/screen.h"
+#include "core/session.h"
+#include "core/title.h"
+#include "platform/errors.h"
+#include "platform/wholeFile.h"
+#include "store/cardFiles.h"
+#include "store/descriptionFile.h"
+
+#include <QHash>
+
+#include <algorithm>
+#include <filesystem>
+
+namespace {
+
+constexpr int idLength = 8;
+constexpr int stripSize = 2;
+const QString recordEnding = QStringLiteral(".tcd");
+
+/// The names of the record files, in the order of the cards. Raises 76 when the folder can't be listed.
+QStringList recordFiles(const QString& folder)
+{
+    namespace fs = std::filesystem;
+    std::error_code failed;
+    fs::directory_iterator entries(fs::path(folder.toStdU16String()), failed);
+    QStringList names;
+    while (!failed && entries != fs::directory_iterator()) {
+        const QString name = QString::fromStdU16String(entries->path().filename().u16string());
+        std::error_code gone; // a file that has just vanished is none
+        if (name.endsWith(recordEnding, Qt::CaseInsensitive) && !name.startsWith(QLatin1Char('.')) &&
+            entries->is_regular_file(gone))
+            names.append(name);
+        entries.increment(failed);
+    }
+    if (failed)
+        throw RuntimeError(pathNotFound);
+    std::sort(names.begin(), names.end(),
+              [](const QString& one, const QString& other) { return one.toUpper() < other.toUpper(); });
+    return names;
+}
+
+/// All that a face is made of, and the face.
+struct LoadedFace {
+    QByteArray picture;
+    QString label;
+    int width;
+    int height;
+    int cardSize;
+    QString colour;
+    QImage face;
+
+    bool madeAs(const LoadedFace& other) const
+    {
+        return label == other.label && width == other.width && height == other.height &&
+               cardSize == other.cardSize && colour == other.colour && picture == other.picture;
+    }
+};
+
+QHash<QString, LoadedFace> lastFaces; // by cardId
+
+/// Loads the pictures of one run through the cards, one after the other, and draws the faces that need it.
+class FaceLoader {
+public:
+    void load(int card);
+    void finish();
+    bool anyDrawn() const { return drawn; }
+
+private:
+    bool readPictureBytes(int card);
+    void takeFace(int card, const LoadedFace& known);
+    void decodePassedOver();
+
+    QHash<QString, LoadedFace> faces;
+    QByteArray bytes;      // of the picture being loaded
+    QByteArray passedOver; // of the last picture that wasn't decoded, and stands for Picture1
+    bool drawn = false;
+};
+
+void FaceLoader::load(int card)
+{
+    const bool read = readPictureBytes(card);
+    const LoadedFace wanted{bytes,
+                            session.cardValue[card][1],
+                            session.shrinkdummy.width,
+                            session.shrinkdummy.height,
+                            session.cardSize,
+                            session.ColText,
+                            {}};
+    const QString& id = session.cardId[card];
+    const auto known = lastFaces.constFind(id);
+    if (read && known != lastFaces.constEnd() && known->madeAs(wanted)) {
+        passedOver = bytes;
+        takeFace(card, *known);
+        faces.insert(id, *known);
+        return;
+    }
+    bool shown = read;
+    if (session.cardSize == stripSize) {
+        loadCardPicture(card);
+    } else if (read) {
+        decodePassedOver(); // a picture that can't be decoded leaves what was shown before
+        shown = showCardPicture(bytes);
+    }
+    drawCardFace(card);
+    drawn = true;
+    if (shown) {
+        LoadedFace made = wanted;
+        made.face = session.box[card].picture;
+        faces.insert(id, made);
+    }
+}
+
+/// False when the file can't be read, which the pupil is told.
+bool FaceLoader::readPictureBytes(int card)
+{
+    bytes.clear();
+    if (session.cardSize == stripSize)
+        return true;
+    const bool read = withErrorBox([&] { bytes = readWholeFile(cardPicturePath(card)); });
+    if (!read)
+        decodePassedOver();
+    return read;
+}
+
+void FaceLoader::takeFace(int card, const LoadedFace& known)
+{
+    CardImage& image = session.box[card];
+    image.tooltip = known.label;
+    if (image.picture.cacheKey() == known.face.cacheKey() && image.width == known.width &&
+        image.height == known.height)
+        return;
+    image.picture = known.face;
+    image.width = known.width;
+    image.height = known.height;
+    session.shrinkdummy.image = known.face;
+    drawn = true;
+}
+
+void FaceLoader::decodePassedOver()
+{
+    if (!passedOver.isEmpty())
+        showCardPicture(passedOver);
+    passedOver.clear();
+}
+
+void FaceLoader::finish()
+{
+    decodePassedOver();
+    lastFaces = faces;
+}
+
+/// True when the card was put somewhere.
+bool placeWhenHidden(int card)
+{
+    CardImage& image = session.box[card];
+    if (image.visible)
+        return false;
+    placeCard(card);
+    image.visible = true;
+    return true;
+}
+
+void placeWhenWithoutPlace(int card)
+{
+    const CardImage& image = session.box[card];
+    if (image.left < 1 && image.top < menuGreyLine) {
+        placeCardAtRandom(card);
+        markCard(card);
+    }
+}
+
+void hideUnusedCards()
+{
+    for (int card = session.numCards + 1; card <= session.maxCards; ++card) {
+        session.box[card].visible = false;
+        clearCardValues(card);
+        session.cardId[card].clear();
+    }
+}
+
+} // namespace
+
+void forgetLoadedFaces() { lastFaces.clear(); }
+
+void loadAllCards()
+{
+    const QStringList files = recordFiles(session.dbPath);
+    const int before = session.numCards;
+    readDbInfo();
+    session.numCards = int(files.size());
+    FaceLoader faces;
+    bool moved = before != session.numCards;
+    for (int card = 1; card <= session.numCards; ++card) {
+        session.cardId[card] =
+            files[card - 1].left(files[card - 1].size() - recordEnding.size()).left(idLength);
+        loadCardValues(card);
+        moved |= placeWhenHidden(card);
+        faces.load(card);
+        placeWhenWithoutPlace(card);
+    }
+    faces.finish();
+    hideUnusedCards();
+    if (moved || faces.anyDrawn())
+        screen.redrawBoard();
+    updateTitle();
+}
