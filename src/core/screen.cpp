@@ -8,6 +8,7 @@ Screen blankScreen()
     blank.showTitle = [] {};
     blank.showControls = [] {};
     blank.showTable = [] {};
+    blank.redrawTable = [] {};
     blank.measureLabel = [](const QString&, double&, double&) {};
     blank.showSpeedWindow = [] {};
     blank.unloadSpeedWindow = [] {};

@@ -14,8 +14,10 @@ struct Screen {
     std::function<void()> showTitle;
     /// The controls of the main window take the states in the session (modes, headings, check boxes, panels).
     std::function<void()> showControls;
-    /// Lays out and fills the table from the session.
+    /// Enters table mode: lays the table out for the window's size and fills it.
     std::function<void()> showTable;
+    /// The table's cells, its scroll bar or one of its faces are those of the session now.
+    std::function<void()> redrawTable;
     /// Tells the width and height of a caption in the board's font, in pixels.
     std::function<void(const QString& text, double& width, double& height)> measureLabel;
 

@@ -12,6 +12,7 @@
 #include <QtGlobal>
 
 #include <array>
+#include <vector>
 
 inline constexpr int lastCard = 100;    // end of the card tables; a database holds at most session.maxCards
 inline constexpr int lastField = 12;    // end of the field tables
@@ -82,6 +83,24 @@ public:
 
 private:
     std::array<int, lastCard + 1> order;
+};
+
+/// The table's grid as rows and columns of text, with a card's face in column 1. Row 0 is the header.
+struct TableGrid {
+    int width = 0; // pixels
+    int height = 0;
+    int headerHeight = 0;
+    int cols = 0;
+    int rows = 0;
+    std::vector<int> columnWidths;         // pixels, one for each column
+    std::vector<std::vector<QString>> text; // [row][column]
+    std::vector<QImage> face;              // [row]
+};
+
+struct TableScroll {
+    int max = 0;
+    int value = 0; // row r shows card r + value
+    int largeChange = 1;
 };
 
 /// One condition of the find dialog: field `fieldTag` (a number as text) compared by `word` with `value`.
@@ -179,6 +198,11 @@ struct Session {
     QString boardColour =
         QStringLiteral("&H8000000F");           // the window's background, as the settings spell colours
     QString borderColour = QStringLiteral("0"); // of SelectBox
+
+    // The table
+    TableGrid Grid;
+    TableScroll gridScroll;
+    QString editBoxText; // of editBox, the value in a cell being written
 
     // Controls of the main window that routines switch
     QString title;

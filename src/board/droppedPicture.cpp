@@ -1,0 +1,14 @@
+#include "board/droppedPicture.h"
+
+#include "core/session.h"
+
+void paintDroppedPicture(const QImage& dropped)
+{
+    WorkPicture& box = session.Picture1;
+    QImage painted(box.width, box.height, QImage::Format_RGB32);
+    painted.fill(Qt::white); // transparent pictures lie on paper
+    QPainter painter(&painted);
+    painter.drawImage(0, 0, dropped.scaled(painted.size(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
+    painter.end();
+    box.image = painted;
+}

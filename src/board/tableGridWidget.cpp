@@ -1,0 +1,153 @@
+#include "board/tableGridWidget.h"
+
+#include "board/tableView.h"
+#include "core/session.h"
+#include "platform/errors.h"
+
+#include <QDropEvent>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QMimeData>
+#include <QPainter>
+#include <QStyledItemDelegate>
+#include <QWheelEvent>
+
+namespace {
+
+constexpr int faceColumn = 1;
+
+/// Paints a face as it is, from the cell's upper left corner.
+class FaceDelegate : public QStyledItemDelegate {
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override
+    {
+        const auto face = index.data(Qt::DecorationRole).value<QImage>();
+        QStyledItemDelegate::paint(painter, option, QModelIndex());
+        painter->save();
+        painter->setClipRect(option.rect);
+        painter->drawImage(option.rect.topLeft(), face);
+        painter->restore();
+    }
+};
+
+} // namespace
+
+TableGridWidget::TableGridWidget(QWidget* parent)
+    : QTableWidget(parent)
+{
+    setObjectName(QStringLiteral("Grid"));
+    setAccessibleName(QStringLiteral("Table"));
+    setEditTriggers(NoEditTriggers);
+    setSelectionMode(SingleSelection);
+    setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setAcceptDrops(true);
+    setTabKeyNavigation(false);
+    setWordWrap(true);
+    setItemDelegateForColumn(faceColumn, new FaceDelegate(this));
+    verticalHeader()->hide();
+    verticalHeader()->setMinimumSectionSize(1);
+    horizontalHeader()->setMinimumSectionSize(1);
+    horizontalHeader()->setSectionsClickable(false);
+    horizontalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+}
+
+int TableGridWidget::headerHeight() const { return horizontalHeader()->sizeHint().height(); }
+
+void TableGridWidget::showGrid()
+{
+    const TableGrid& grid = session.Grid;
+    setColumnCount(grid.cols);
+    setRowCount(std::max(grid.rows - 1, 0));
+    QStringList names;
+    for (int column = 0; column < grid.cols; ++column) {
+        setColumnWidth(column, grid.columnWidths[std::size_t(column)]);
+        names.append(grid.text[0][std::size_t(column)]);
+    }
+    names[0] = QStringLiteral("No.");
+    names[faceColumn] = QStringLiteral("Card");
+    setHorizontalHeaderLabels(names);
+    for (int row = 1; row < grid.rows; ++row)
+        showRow(row);
+}
+
+void TableGridWidget::showRow(int row)
+{
+    const TableGrid& grid = session.Grid;
+    const bool last = row == grid.rows - 1;
+    setRowHeight(row - 1, last ? verticalHeader()->defaultSectionSize() : cardRowHeight);
+    for (int column = 0; column < grid.cols; ++column) {
+        QTableWidgetItem* shown = item(row - 1, column);
+        if (shown == nullptr) {
+            shown = new QTableWidgetItem;
+            shown->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable);
+            setItem(row - 1, column, shown);
+        }
+        const QString& text = grid.text[std::size_t(row)][std::size_t(column)];
+        if (column == faceColumn) {
+            shown->setData(Qt::DecorationRole, grid.face[std::size_t(row)]);
+            shown->setData(Qt::AccessibleTextRole, grid.text[std::size_t(row)][2]);
+        } else {
+            shown->setText(text);
+            shown->setToolTip(text);
+        }
+    }
+}
+
+void TableGridWidget::keyPressEvent(QKeyEvent* event)
+{
+    const int lastFullRow = std::max(rowCount() - 2, 0);
+    const int page = session.gridScroll.largeChange;
+    switch (event->key()) {
+    case Qt::Key_PageDown:
+        scrollWanted(page);
+        return;
+    case Qt::Key_PageUp:
+        scrollWanted(-page);
+        return;
+    case Qt::Key_Home:
+        scrollWanted(-session.gridScroll.max);
+        return;
+    case Qt::Key_End:
+        scrollWanted(session.numCards - 1 - session.gridScroll.value);
+        return;
+    case Qt::Key_Down:
+        if (currentRow() >= lastFullRow) {
+            scrollWanted(1);
+            return;
+        }
+        break;
+    case Qt::Key_Up:
+        if (currentRow() <= 0) {
+            scrollWanted(-1);
+            return;
+        }
+        break;
+    default:
+        break;
+    }
+    QTableWidget::keyPressEvent(event);
+}
+
+void TableGridWidget::wheelEvent(QWheelEvent* event) { event->ignore(); } // the panel scrolls
+
+void TableGridWidget::dragEnterEvent(QDragEnterEvent* event)
+{
+    if (event->mimeData()->hasUrls())
+        event->acceptProposedAction();
+}
+
+void TableGridWidget::dragMoveEvent(QDragMoveEvent* event) { event->acceptProposedAction(); }
+
+void TableGridWidget::dropEvent(QDropEvent* event)
+{
+    const QPointF place = event->position() + QPointF(0, session.Grid.headerHeight); // of the viewport
+    const QList<QUrl> files = event->mimeData()->urls();
+    event->acceptProposedAction();
+    const int row = rowOfDrop(place.x(), place.y());
+    if (row != 0 && !files.isEmpty())
+        guarded([&] { dropPictureOnRow(row, files.first().toLocalFile()); });
+}

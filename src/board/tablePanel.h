@@ -1,0 +1,31 @@
+// The table as pupils see it: a grid with a header, large rows and a scroll bar of the system's own.
+#pragma once
+
+#include <QFrame>
+
+class QScrollBar;
+class TableGridWidget;
+
+/// Shows session.Grid and session.gridScroll; everything it does goes through the table's routines.
+class TablePanel : public QFrame {
+    Q_OBJECT
+public:
+    explicit TablePanel(QWidget* parent);
+
+    /// Tells the session the grid's measures for the panel's present size.
+    void measureGrid();
+
+    /// Takes over cells, faces and scroll bar from the session.
+    void showGrid();
+
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
+
+private:
+    void scrollBy(int rows);
+
+    TableGridWidget* const Grid;
+    QScrollBar* const gridScroll;
+    double wheelTurn = 0; // part of a row that the wheel has turned so far
+};
