@@ -1,0 +1,28 @@
+#include "tools/fieldChoice.h"
+
+#include "core/session.h"
+#include "platform/dialogParts.h"
+
+#include <QComboBox>
+#include <QStyledItemDelegate>
+
+QComboBox* fieldChoice(const char* name)
+{
+    auto* choice = named(new QComboBox, name);
+    choice->setItemDelegate(
+        new QStyledItemDelegate(choice)); // lets the list have rows as large as the sheet says
+    choice->setSizeAdjustPolicy(QComboBox::AdjustToContents);
+    QObject::connect(choice, &QComboBox::currentIndexChanged, choice, [](int index) {
+        if (index >= 0)
+            session.chosenField = index + 1;
+    });
+    return choice;
+}
+
+void fillFieldChoice(QComboBox& choice)
+{
+    choice.clear();
+    for (int f = 1; f <= session.numFields; ++f)
+        choice.addItem(session.fieldName[f]);
+    choice.setCurrentIndex(0);
+}

@@ -1,0 +1,68 @@
+#include "tools/flight.h"
+
+#include "core/screen.h"
+#include "core/session.h"
+#include "platform/desktop.h"
+#include "platform/values.h"
+
+#include <cmath>
+
+namespace {
+
+double& place(int card, Axis axis)
+{
+    return axis == Axis::x ? session.box[card].left : session.box[card].top;
+}
+
+} // namespace
+
+bool flyAlong(int card, Axis axis, double target)
+{
+    const double step = place(card, axis) > target ? -0.5 : 0.5;
+    while (std::abs(target - place(card, axis)) > session.animationSpeed && !session.animationStopped) {
+        place(card, axis) += session.animationSpeed * step;
+        screen.redrawCard(card);
+        if (session.animationSpeed == 0)
+            desktop.waitForEvents();
+        else
+            desktop.yield();
+    }
+    return !session.animationStopped;
+}
+
+bool flyOnto(int card, Axis axis, double target)
+{
+    if (!flyAlong(card, axis, target))
+        return false;
+    place(card, axis) = target;
+    screen.redrawCard(card);
+    return true;
+}
+
+void flyToCorner(int card, double left, double top)
+{
+    flyOnto(card, Axis::x, left);
+    if (!flyOnto(card, Axis::y, top))
+        return;
+    bringCardToFront(card);
+    session.cardPlaced[card] = true;
+}
+
+void moveCardTo(int card, int x, int y)
+{
+    const double left = toInteger(x - session.box[card].width / 2);
+    const double top = toInteger(y - session.box[card].height / 2);
+    flyToCorner(card, left, top);
+}
+
+void bringCardToFront(int card)
+{
+    session.cardStack.bringToFront(card);
+    screen.redrawCard(card);
+}
+
+void sendCardToBack(int card)
+{
+    session.cardStack.sendToBack(card);
+    screen.redrawCard(card);
+}
