@@ -1,6 +1,7 @@
 #include "core/Form1.h"
 
 #include "core/dispatch.h"
+#include "core/mainSettings.h"
 #include "core/screen.h"
 #include "core/session.h"
 #include "core/shutDown.h"
@@ -23,7 +24,6 @@
 namespace {
 
 constexpr QSize leastSize(640, 400);
-constexpr int TmrShowTime = 3000; // ms
 
 QPushButton* bandButton(const char* name, const QString& pictureName, const QString& spokenName)
 {
@@ -41,6 +41,14 @@ QPushButton* modeButton(const char* name, const char* tag, const QString& pictur
     button->setCheckable(true);
     button->setProperty("Tag", QLatin1String(tag));
     return button;
+}
+
+QTimer* onceTimer(const char* name, int interval, QObject* parent)
+{
+    auto* timer = named(new QTimer(parent), name);
+    timer->setSingleShot(true);
+    timer->setInterval(interval);
+    return timer;
 }
 
 void follow(QWidget& control, const ControlState& state)
@@ -89,14 +97,13 @@ Form1::Form1()
     , cmdQuestion(bandButton("cmdQuestion", QStringLiteral("clue"), QStringLiteral("Show Clues")))
     , cmdCopyGraph(named(new QPushButton(QStringLiteral("Copy Graph")), "cmdCopyGraph"))
     , tablePanel(named(new QWidget(this), "tablePanel"))
-    , TmrShow(named(new QTimer(this), "TmrShow"))
+    , tmrDelCard(onceTimer("tmrDelCard", 2, this))
+    , TmrShow(onceTimer("TmrShow", 3000, this))
 {
     setMinimumSize(leastSize);
     tablePanel->hide();
     fillBand();
     connectControls();
-    TmrShow->setSingleShot(true);
-    TmrShow->setInterval(TmrShowTime);
 }
 
 void Form1::fillBand()
@@ -114,9 +121,10 @@ void Form1::connectControls()
 {
     onClick(refreshCheck, [this] {
         ::screen.setRefresh(refreshCheck->isChecked() ? QStringLiteral("On") : QStringLiteral("Off"));
-        showControls();
     });
+    connect(refreshCheck, &QCheckBox::clicked, this, &Form1::showControls); // whatever came of it
     onClick(cmdQuestion, [] { ::screen.showClues(); });
+    connect(tmrDelCard, &QTimer::timeout, this, [] { guarded(rereadDeleteOption); });
     qApp->installEventFilter(this); // the window sees every key before the control that has the focus
 }
 
@@ -126,6 +134,10 @@ void Form1::load()
     setControlsAtStart();
     setTitle(titleWithoutDatabase());
     desktop.setBusyPointer(false);
+    loadMainSettings();
+    if (session.txtShow == QLatin1String("True"))
+        TmrShow->start();
+    tmrDelCard->start();
     showControls();
 }
 

@@ -31,7 +31,8 @@ public:
     QPushButton* const cmdQuestion;
     QPushButton* const cmdCopyGraph;
     QWidget* const tablePanel;
-    QTimer* const TmrShow;
+    QTimer* const tmrDelCard; // 2 ms, once: reads its option again
+    QTimer* const TmrShow;    // 3000 ms, once: does nothing more
 
 protected:
     void resizeEvent(QResizeEvent* event) override;

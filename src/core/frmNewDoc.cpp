@@ -7,6 +7,7 @@
 #include "platform/errors.h"
 #include "platform/forms.h"
 #include "platform/picture.h"
+#include "store/settings.h"
 
 #include <QEvent>
 #include <QGridLayout>
@@ -19,6 +20,8 @@
 namespace {
 
 constexpr auto overview = "Oview";
+constexpr int pictureGap = 16;
+constexpr int textIndent = 84; // of an option's words: its circle and its picture come first
 
 /// Shows the folder's beginning and end when there is no room for all of it.
 class PathLabel : public QLabel {
@@ -74,16 +77,21 @@ frmNewDoc::frmNewDoc()
 {
     setWindowTitle(QStringLiteral("Welcome to Tallymoor"));
     auto* grid = new QGridLayout(this);
+    grid->setHorizontalSpacing(pictureGap);
     grid->addWidget(pictureLabel(QStringLiteral("welcome"), {176, 220}), 0, 0, 3, 1, Qt::AlignTop);
     grid->addWidget(words(QStringLiteral("Welcome To Tallymoor"), "heading"), 0, 1);
     grid->addWidget(words(QStringLiteral("Please make a selection from the list below..."), "subHeading"), 1,
                     1);
     grid->addWidget(choices(), 2, 1);
+    auto* video = videoButton(QLatin1String(overview));
     auto* lowest = new QHBoxLayout;
-    lowest->addWidget(videoButton(QLatin1String(overview)));
+    lowest->addWidget(video);
     lowest->addStretch();
     lowest->addWidget(answers);
     grid->addLayout(lowest, 3, 0, 1, 2);
+    grid->setRowStretch(2, 1);
+    orderKeys(video);
+    answers->ok->setEnabled(false); // until something is chosen
 
     onClick(answers->cancel, [] { unload<frmNewDoc>(); });
     // The steps may open dialogs of their own: whoever pressed the button mustn't wait for those.
@@ -97,7 +105,12 @@ QGroupBox* frmNewDoc::choices()
     auto* frame = new QGroupBox(QStringLiteral("Please select to..."));
     auto* grid = new QGridLayout(frame);
     grid->setVerticalSpacing(0);
-    const auto explain = [](const char* text) { return words(QLatin1String(text), "explanation"); };
+    grid->setColumnMinimumWidth(0, textIndent);
+    const auto explain = [](const char* text) {
+        QLabel* label = words(QLatin1String(text), "explanation");
+        label->setWordWrap(false);
+        return label;
+    };
     addChoice(*grid, Option1, "welcomeNew",
               explain("Create a new database on this machine or over the network."));
     addChoice(*grid, Option2, "welcomeOpen",
@@ -114,13 +127,29 @@ void frmNewDoc::addChoice(QGridLayout& grid, QRadioButton* option, const char* p
     const int row = grid.rowCount();
     option->setIcon(QIcon(picturePath(QLatin1String(pictureName))));
     option->setAccessibleDescription(explanation->text());
-    option->installEventFilter(this);
-    grid.addWidget(option, row, 0);
-    grid.addWidget(explanation, row + 1, 0);
+    grid.addWidget(option, row, 0, 1, 2);
+    grid.addWidget(explanation, row + 1, 1, Qt::AlignTop);
+    for (QWidget* part : std::initializer_list<QWidget*>{option, explanation}) {
+        choiceAt.insert(part, option);
+        part->installEventFilter(this);
+    }
+    connect(option, &QRadioButton::toggled, this, [this] { answers->ok->setEnabled(true); });
+}
+
+void frmNewDoc::orderKeys(QWidget* video)
+{
+    QWidget* before = Option1;
+    for (QWidget* next :
+         std::initializer_list<QWidget*>{Option2, Option3, Option4, answers->ok, answers->cancel, video}) {
+        setTabOrder(before, next);
+        before = next;
+    }
+    Option1->setFocus();
 }
 
 void frmNewDoc::load()
 {
+    TxtPath = readSetting(settingsFile(), QStringLiteral("Last DB"), QStringLiteral("Path"), QString());
     const bool known = !TxtPath.isEmpty();
     lblPath->setText(known ? TxtPath : QStringLiteral("No last Database"));
     lblPath->setEnabled(known);
@@ -128,9 +157,14 @@ void frmNewDoc::load()
     Option4->setAccessibleDescription(lblPath->text());
 }
 
-bool frmNewDoc::eventFilter(QObject*, QEvent* event)
+bool frmNewDoc::eventFilter(QObject* watched, QEvent* event)
 {
-    if (event->type() == QEvent::MouseButtonDblClick)
+    QRadioButton* option = choiceAt.value(watched);
+    if (!option || !option->isEnabled())
+        return false;
+    if (event->type() == QEvent::MouseButtonPress && watched != option)
+        option->click();
+    else if (event->type() == QEvent::MouseButtonDblClick)
         answers->ok->click();
     return false;
 }

@@ -3,6 +3,7 @@
 
 #include "platform/answerButtons.h"
 
+#include <QHash>
 #include <QLabel>
 #include <QRadioButton>
 
@@ -29,5 +30,8 @@ protected:
 private:
     QGroupBox* choices();
     void addChoice(QGridLayout& grid, QRadioButton* option, const char* pictureName, QLabel* explanation);
+    void orderKeys(QWidget* video);
     void begin();
+
+    QHash<QObject*, QRadioButton*> choiceAt; // an explanation chooses as the option above it does
 };

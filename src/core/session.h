@@ -9,6 +9,7 @@
 
 #include <QImage>
 #include <QString>
+#include <QStringList>
 #include <QtGlobal>
 
 #include <array>
@@ -71,6 +72,12 @@ struct WorkPicture {
 
     /// What the control shows: the image unscaled from the top left corner, cut at its edges, on white.
     QImage shown() const;
+};
+
+/// The printers of this computer and the one that is chosen, -1 for none.
+struct PrinterList {
+    QStringList names;
+    int listIndex = -1;
 };
 
 /// The order in which cards lie over one another, the lowest first.
@@ -220,6 +227,8 @@ struct Session {
     ControlState pullDownBut{false, true, false};
     ControlState AnswerHolder{false, true, false};
     ControlState MenuHolder{false, true, false};
+
+    PrinterList Printercombo;
 
     // Hidden boxes of the main window: the teachers' options in the running program
     QString txtShow = QStringLiteral("True");

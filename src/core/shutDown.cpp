@@ -3,13 +3,16 @@
 #include "core/session.h"
 #include "platform/errors.h"
 #include "platform/forms.h"
+#include "store/cardFiles.h"
 
 #include <QCoreApplication>
 
 void shutDown()
 {
     session.animationStopped = true; // a run that yields to us finds no board any more
+    deleteAnswers();
     unloadAllForms();
+    deleteAnswers(); // what a window wrote when it was unloaded
     QCoreApplication::exit();
 }
 

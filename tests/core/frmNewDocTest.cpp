@@ -1,0 +1,150 @@
+#include "core/frmNewDoc.h"
+
+#include "core/screen.h"
+#include "platform/errors.h"
+#include "platform/forms.h"
+#include "store/settings.h"
+#include "support/freshStart.h"
+
+#include <QCoreApplication>
+#include <QTest>
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+class Welcome : public Fresh {
+protected:
+    Welcome()
+    {
+        screen.newDatabase = [this] { ran.append(QStringLiteral("new")); };
+        screen.openDatabase = [this] { ran.append(QStringLiteral("open")); };
+        screen.installTutorials = [this] { ran.append(QStringLiteral("install")); };
+    }
+
+    static frmNewDoc& shown()
+    {
+        auto& dialog = form<frmNewDoc>();
+        dialog.show();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&dialog));
+        return dialog;
+    }
+
+    static void click(QWidget* option)
+    {
+        QTest::mouseClick(option, Qt::LeftButton, {}, {12, option->height() / 2});
+    }
+
+    static void press(const char* name)
+    {
+        QTest::mouseClick(form<frmNewDoc>().findChild<QPushButton*>(QLatin1String(name)), Qt::LeftButton);
+        QCoreApplication::processEvents();
+    }
+
+    static void videosAreMissing()
+    {
+        desktop.startProgram = [](const QString&, const QStringList&) { throw RuntimeError(fileNotFound); };
+    }
+
+    QStringList ran;
+};
+
+TEST_F(Welcome, OffersTheLastDatabaseWithoutChoosingIt)
+{
+    EXPECT_FALSE(shown().Option4->isEnabled());
+    EXPECT_EQ(shown().lblPath->text(), QStringLiteral("No last Database"));
+
+    unload<frmNewDoc>();
+    writeSetting(settingsFile(), QStringLiteral("Last DB"), QStringLiteral("Path"),
+                 QStringLiteral("/school/zoo"));
+    EXPECT_TRUE(shown().Option4->isEnabled() && shown().lblPath->isEnabled());
+    EXPECT_FALSE(shown().Option4->isChecked());
+    EXPECT_EQ(shown().lblPath->text(), QStringLiteral("/school/zoo"));
+    EXPECT_EQ(shown().Option4->accessibleDescription(), QStringLiteral("/school/zoo"));
+}
+
+TEST_F(Welcome, OkWaitsForAChoiceAndThenRunsIt)
+{
+    shown();
+    press("BtnOK");
+    EXPECT_TRUE(isLoaded<frmNewDoc>());
+    EXPECT_THAT(ran, IsEmpty());
+
+    click(shown().Option1);
+    press("BtnOK");
+    EXPECT_THAT(ran, ElementsAre(QStringLiteral("new")));
+    EXPECT_FALSE(isLoaded<frmNewDoc>());
+}
+
+TEST_F(Welcome, KeysAloneChooseAndConfirm)
+{
+    auto& dialog = shown();
+    QTest::keyClick(dialog.focusWidget(), Qt::Key_Down);
+    QTest::keyClick(dialog.focusWidget(), Qt::Key_Space);
+    EXPECT_TRUE(dialog.Option2->isChecked());
+    QTest::keyClick(dialog.focusWidget(), Qt::Key_Return);
+    QCoreApplication::processEvents();
+    EXPECT_THAT(ran, ElementsAre(QStringLiteral("open")));
+    EXPECT_FALSE(isLoaded<frmNewDoc>());
+}
+
+TEST_F(Welcome, ADoubleClickOnAnOptionOrItsWordsIsOk)
+{
+    for (const bool onWords : {false, true}) {
+        ran.clear();
+        auto& dialog = shown();
+        QWidget* words = dialog.Option2->parentWidget()->childAt(dialog.Option2->geometry().bottomLeft() +
+                                                                 QPoint(120, 10));
+        ASSERT_TRUE(qobject_cast<QLabel*>(words));
+        QWidget* target = onWords ? words : dialog.Option2;
+        click(target);
+        QTest::mouseDClick(target, Qt::LeftButton, {}, {12, target->height() / 2});
+        QCoreApplication::processEvents();
+        EXPECT_THAT(ran, ElementsAre(QStringLiteral("open"))) << onWords;
+    }
+}
+
+TEST_F(Welcome, AVideoLeavesTheDialogOpen)
+{
+    click(shown().Option3);
+    press("BtnOK");
+    EXPECT_THAT(recorded.started,
+                ElementsAre(desktop.programFolder() + QStringLiteral("/Videos/Oview.exe /shc")));
+    EXPECT_TRUE(isLoaded<frmNewDoc>());
+    EXPECT_EQ(recorded.beeps, 0);
+}
+
+TEST_F(Welcome, MissingVideosAreOfferedToBeInstalled)
+{
+    videosAreMissing();
+    click(shown().Option3);
+    recorded.answers = {false, true};
+    press("BtnOK");
+    EXPECT_THAT(ran, IsEmpty());
+    press("BtnOK");
+    EXPECT_THAT(ran, ElementsAre(QStringLiteral("install")));
+    EXPECT_EQ(recorded.beeps, 2);
+    EXPECT_EQ(recorded.messages.value(0),
+              QStringLiteral("Confirm|It appears you have not installed the Video Tutorials.\n"
+                             "Would you like to install them now?"));
+    press("BtnVid"); // passes over the failure
+    EXPECT_EQ(recorded.messages.size(), 2);
+}
+
+TEST_F(Welcome, AnErrorWhileOpeningEndsTheProgram)
+{
+    screen.openDatabase = [] { throw RuntimeError(pathNotFound); };
+    shown().Option2->click();
+    press("BtnOK");
+    EXPECT_THAT(recorded.messages, ElementsAre(QStringLiteral("Error|Path not found")));
+    EXPECT_FALSE(isLoaded<frmNewDoc>());
+}
+
+TEST_F(Welcome, EscapeAndTheCloseBoxAreCancel)
+{
+    shown().Option1->click();
+    QTest::keyClick(&shown(), Qt::Key_Escape);
+    EXPECT_FALSE(isLoaded<frmNewDoc>());
+    shown().close();
+    EXPECT_FALSE(isLoaded<frmNewDoc>());
+    EXPECT_THAT(ran, IsEmpty());
+}

@@ -1,0 +1,49 @@
+#include "platform/mounts.h"
+
+#include "support/freshStart.h"
+
+using testing::ElementsAre;
+
+namespace {
+
+QStringList told(const QByteArray& table, int from = 2)
+{
+    QStringList lines;
+    for (const Volume& volume :
+         drives(table, [](const QString& device) { return device == QLatin1String("/dev/sdb1"); }))
+        lines.append(QStringLiteral("%1 %2 %3").arg(volume.name, volume.root).arg(volume.kind));
+    return lines.mid(from);
+}
+
+} // namespace
+
+TEST(Mounts, HomeAndComputerComeFirst)
+{
+    EXPECT_THAT(told({}, 0), ElementsAre(QStringLiteral("(HOME) ") + QDir::homePath() + QStringLiteral(" 3"),
+                                         QStringLiteral("(COMPUTER) / 3")));
+}
+
+TEST(Mounts, OnlyMediaThatAPupilMayWantAreDrives)
+{
+    EXPECT_THAT(told("/dev/sda2 / ext4 rw 0 0\n"
+                     "proc /proc proc rw 0 0\n"
+                     "/dev/sda1 /boot/efi vfat rw 0 0\n"
+                     "/dev/sdb1 /mnt/stick vfat rw 0 0\n"
+                     "/dev/sdc1 /media/anna/RED\\040STICK vfat rw 0 0\n"
+                     "//server/class /srv/class3 cifs rw 0 0\n"
+                     "smbnetfs /home/anna/Net fuse.smbnetfs rw 0 0\n"
+                     "/dev/sr0 /cdrom iso9660 ro 0 0\n"
+                     "broken line\n"),
+                ElementsAre(QStringLiteral("(STICK) /mnt/stick 2"),
+                            QStringLiteral("(RED STICK) /media/anna/RED STICK 2"),
+                            QStringLiteral("(CLASS3) /srv/class3 4"),
+                            QStringLiteral("(NET) /home/anna/Net 4"), QStringLiteral("(CDROM) /cdrom 5")));
+}
+
+TEST(Mounts, EightDrivesAreTheMost)
+{
+    QByteArray table;
+    for (int i = 0; i < 9; ++i)
+        table += "//server/share /srv/s" + QByteArray::number(i) + " cifs rw 0 0\n";
+    EXPECT_EQ(told(table, 0).size(), 8);
+}
