@@ -5,6 +5,7 @@
 #include "platform/colour.h"
 #include "platform/desktop.h"
 #include "platform/fonts.h"
+#include "store/cardFiles.h"
 
 #include <QFontMetricsF>
 #include <QPainter>
@@ -13,6 +14,12 @@ namespace {
 
 constexpr int stripSize = 2;
 constexpr int dotsPerMetre = 3780; // 96 to the inch: a board pixel, whatever the screen
+
+struct Measures {
+    double width;
+    double height;
+};
+constexpr Measures measuresOfSize[] = {{40, 30}, {80, 60}, {80, 24}};
 
 QFont labelFont()
 {
@@ -32,19 +39,6 @@ QImage blankFace(const QSize& size)
     face.setDotsPerMeterY(dotsPerMetre);
     face.fill(Qt::white);
     return face;
-}
-
-/// What `Picture1` shows: the file's picture from the top left corner, white where there is none.
-QImage shownPicture()
-{
-    const WorkPicture& box = session.Picture1;
-    const QSize size(box.width, box.height);
-    if (box.image.size() == size)
-        return box.image;
-    QImage shown(size, QImage::Format_RGB32);
-    shown.fill(Qt::white);
-    QPainter(&shown).drawImage(QPoint(), box.image);
-    return shown;
 }
 
 void print(QPainter& painter, const QPointF& corner, const QColor& ink, const QString& text)
@@ -80,7 +74,7 @@ void drawCardFace(int card)
             drawStrip(painter, label);
         } else {
             QImage picture =
-                shownPicture().scaled(face.size(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+                session.Picture1.shown().scaled(face.size(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
             picture.setDevicePixelRatio(face.devicePixelRatio());
             drawPictureWithLabel(painter, picture, label);
         }
@@ -93,4 +87,22 @@ void drawCardFace(int card)
     image.height = size.height();
     image.picture = face;
     screen.redrawCard(card);
+}
+
+void resizeAllCards()
+{
+    if (session.cardSize >= 0 && session.cardSize <= stripSize) {
+        session.cardWidth = measuresOfSize[session.cardSize].width;
+        session.cardHeight = measuresOfSize[session.cardSize].height;
+    }
+    session.shrinkdummy.width = int(session.cardWidth);
+    session.shrinkdummy.height = int(session.cardHeight);
+    session.box[0].width = session.cardWidth;
+    session.box[0].height = session.cardHeight;
+    for (int i = 1; i <= session.numCards; ++i) {
+        session.box[i].width = session.cardWidth;
+        session.box[i].height = session.cardHeight;
+        loadCardPicture(i);
+        drawCardFace(i);
+    }
 }

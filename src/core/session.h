@@ -195,7 +195,7 @@ struct Session {
     double boardWidth = 0; // ScaleWidth of Form1, pixels
     double boardHeight = 0;
     BoardShape SelectBox;
-    Bin BigBin;
+    Bin BigBin{{850, 360, 128, 150, false}, false};
     BoardShape VennBox{8, 48, 0, 0, false};
     BoardShape VennLeftCircle{132, 0, 0, 0, false};
     BoardShape VennRightCircle;

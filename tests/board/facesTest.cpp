@@ -1,6 +1,7 @@
 #include "board/faces.h"
 
 #include "core/session.h"
+#include "store/cardFiles.h"
 #include "support/freshStart.h"
 
 namespace {
@@ -122,4 +123,32 @@ TEST_F(Faces, AreAsSharpAsTheScreen)
     EXPECT_EQ(face().devicePixelRatio(), 2);
     EXPECT_EQ(session.box[1].width, 82);
     EXPECT_NEAR(extentOf(face(), red).height(), 2 * single.height(), 2);
+}
+
+TEST_F(Faces, ResizingGivesAllCardsTheMeasuresOfTheNewSizeAndDrawsThemFromTheirFiles)
+{
+    session.dbPath = testFolder().chopped(1);
+    session.numCards = 2;
+    session.cardId[1] = QStringLiteral("AAAAAAAA");
+    session.cardId[2] = QStringLiteral("BBBBBBBB");
+    plain(QSize(159, 120), Qt::red).save(testFolder() + QStringLiteral("AAAAAAAA.bmp"));
+    plain(QSize(159, 120), Qt::blue).save(testFolder() + QStringLiteral("BBBBBBBB.bmp"));
+    const QSize sizes[] = {{40, 30}, {80, 60}, {80, 24}};
+    for (const qint16 size : {0, 1, 2}) {
+        session.cardSize = size;
+        resizeAllCards();
+        EXPECT_EQ(QSize(session.shrinkdummy.width, session.shrinkdummy.height), sizes[size]);
+        for (const int card : {0, 1, 2}) {
+            EXPECT_EQ(session.box[card].width, sizes[size].width());
+            EXPECT_EQ(session.box[card].height, sizes[size].height());
+        }
+        EXPECT_EQ(session.box[1].picture.size(), sizes[size]);
+        const QRgb inTheCorner =
+            session.box[2].picture.pixel(sizes[size].width() - 1, sizes[size].height() - 1);
+        EXPECT_EQ(inTheCorner, size == 2 ? white : blue);
+    }
+    session.cardSize = 7;
+    resizeAllCards();
+    EXPECT_EQ(session.cardHeight, 24) << "an unknown size leaves the measures";
+    EXPECT_TRUE(recorded.messages.empty());
 }

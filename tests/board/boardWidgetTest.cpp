@@ -1,0 +1,314 @@
+#include "board/boardWidget.h"
+
+#include "core/screen.h"
+#include "support/files.h"
+
+#include <QHelpEvent>
+#include <QMouseEvent>
+#include <QPaintEvent>
+#include <QPointingDevice>
+#include <QTest>
+#include <QToolTip>
+
+using testing::ElementsAre;
+
+namespace {
+
+QImage plain(Qt::GlobalColor colour)
+{
+    QImage image(80, 60, QImage::Format_RGB32);
+    image.fill(colour);
+    return image;
+}
+
+/// Counts a widget's paints and notes what they covered.
+class PaintWatch : public QObject {
+public:
+    explicit PaintWatch(QWidget& widget) { widget.installEventFilter(this); }
+    bool eventFilter(QObject*, QEvent* event) override
+    {
+        if (event->type() == QEvent::Paint)
+            paints.push_back(static_cast<QPaintEvent*>(event)->region());
+        return false;
+    }
+    std::vector<QRegion> paints;
+};
+
+class Board : public Fresh {
+protected:
+    Board()
+    {
+        board.resize(1000, 700);
+        board.connectScreen();
+        screen.openCard = [this](int card) { opened.push_back(card); };
+        screen.cardDropped = [this](int card) { dropped.push_back(card); };
+        screen.setRefresh = [this](const QString& word) { refresh.append(word); };
+        screen.showHint = [this](const QString& text) { hints.append(text); };
+        screen.hideHints = [this] { ++hidden; };
+        lay(1, {100, 100}, Qt::red);
+        lay(2, {300, 200}, Qt::green);
+        lay(3, {140, 130}, Qt::blue); // over a corner of card 1
+        board.show();
+        QCoreApplication::processEvents();
+    }
+
+    void lay(int card, QPointF at, Qt::GlobalColor colour)
+    {
+        session.box[card] = {at.x(), at.y(), 80, 60, plain(colour), QStringLiteral("Card <%1>").arg(card),
+                             true,   {}};
+        session.cardId[card] = QStringLiteral("CARDAAA%1").arg(card);
+        session.numCards = std::max(session.numCards, card);
+    }
+
+    void move(QPointF to, Qt::MouseButtons held = Qt::NoButton)
+    {
+        QMouseEvent event(QEvent::MouseMove, to, board.mapToGlobal(to), Qt::NoButton, held, Qt::NoModifier);
+        QCoreApplication::sendEvent(&board, &event);
+    }
+    void press(QPointF at, Qt::MouseButton button = Qt::LeftButton)
+    {
+        sendButton(QEvent::MouseButtonPress, at, button, button);
+    }
+    void release(QPointF at, Qt::MouseButton button = Qt::LeftButton)
+    {
+        sendButton(QEvent::MouseButtonRelease, at, button, Qt::NoButton);
+    }
+    void drag(QPointF from, QPointF to, Qt::MouseButton button = Qt::LeftButton)
+    {
+        move(from);
+        press(from, button);
+        move((from + to) / 2, button);
+        move(to, button);
+        release(to, button);
+    }
+    QColor colourAt(int x, int y) { return board.grab().toImage().pixelColor(x, y); }
+    QString tipAt(QPoint at)
+    {
+        QHelpEvent event(QEvent::ToolTip, at, board.mapToGlobal(at));
+        QCoreApplication::sendEvent(&board, &event);
+        return QToolTip::text();
+    }
+
+    BoardWidget board;
+    std::vector<int> opened, dropped;
+    QStringList refresh, hints;
+    int hidden = 0;
+
+private:
+    void sendButton(QEvent::Type type, QPointF at, Qt::MouseButton button, Qt::MouseButtons held)
+    {
+        QMouseEvent event(type, at, board.mapToGlobal(at), button, held, Qt::NoModifier);
+        QCoreApplication::sendEvent(&board, &event);
+    }
+};
+
+} // namespace
+
+TEST_F(Board, IsPaintedFromTheBackgroundUpToTheFrame)
+{
+    session.boardColour = QStringLiteral("65535"); // yellow
+    session.backgroundImage = plain(Qt::cyan);
+    session.borderColour = QStringLiteral("255");
+    session.SelectBox = {298, 198, 84, 64, true};
+    const struct {
+        int x, y;
+        QColor colour;
+    } cases[] = {{500, 500, Qt::yellow}, {10, 10, Qt::cyan},  {110, 110, Qt::red},  {150, 140, Qt::blue},
+                 {320, 220, Qt::green},  {299, 199, Qt::red}, {300, 200, Qt::green}};
+    for (const auto& c : cases)
+        EXPECT_EQ(colourAt(c.x, c.y), c.colour) << c.x << ' ' << c.y;
+    session.cardStack.bringToFront(1);
+    session.box[2].visible = false;
+    EXPECT_EQ(colourAt(150, 140), QColor(Qt::red));
+    EXPECT_EQ(colourAt(320, 220), QColor(Qt::yellow));
+}
+
+TEST_F(Board, ShowsCaptionsAndCirclesUnderTheCards)
+{
+    session.boardColour = QStringLiteral("16777215");
+    const QImage before = board.grab().toImage();
+    session.VennLeftCircle = {500, 300, 200, 200, true};
+    session.searchTitle = {QStringLiteral("Wings"), 600, 600, 80, 20, true};
+    session.VennBox = {290, 190, 100, 100, true}; // behind card 2
+    const QImage after = board.grab().toImage();
+    EXPECT_NE(after.pixel(501, 400), before.pixel(501, 400)) << "the circle's line";
+    EXPECT_EQ(after.pixel(502, 302), before.pixel(502, 302)) << "outside the circle";
+    EXPECT_NE(after.copy(600, 600, 80, 20), before.copy(600, 600, 80, 20));
+    EXPECT_NE(after.pixel(291, 250), before.pixel(291, 250));
+    EXPECT_EQ(after.copy(300, 200, 80, 60), before.copy(300, 200, 80, 60));
+}
+
+TEST_F(Board, PaintsOnceARoundWhereTheCardWasAndIs)
+{
+    const PaintWatch watch(board);
+    for (int round = 0; round < 3; ++round) {
+        session.box[2].left += 0.4; // stays on the same pixel at first
+        screen.redrawCard(2);
+        screen.redrawCard(2);
+        QCoreApplication::processEvents();
+        ASSERT_EQ(watch.paints.size(), std::size_t(round + 1));
+    }
+    EXPECT_EQ(watch.paints[0], QRegion(300, 200, 80, 60)) << "a round paints though no pixel changed";
+    EXPECT_EQ(watch.paints[1], QRegion(300, 200, 81, 60));
+
+    session.box[2].left = 700;
+    screen.redrawCard(2);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(watch.paints.back(), QRegion(301, 200, 80, 60) | QRegion(700, 200, 80, 60));
+}
+
+TEST_F(Board, PressingACardSelectsAndFramesIt)
+{
+    press({310, 215});
+    EXPECT_EQ(session.selectedCard, 2);
+    EXPECT_EQ(session.box[2].cursor, CardCursor::handClosed);
+    EXPECT_EQ(session.dragOffsetX, 150) << "twips";
+    EXPECT_EQ(session.dragOffsetY, 225);
+    EXPECT_TRUE(session.SelectBox.visible);
+    EXPECT_EQ(session.SelectBox.left, 298);
+    release({310, 215});
+    EXPECT_EQ(session.box[2].cursor, CardCursor::handOpen);
+    EXPECT_EQ(session.cardValue[2][0], QStringLiteral("03000200")) << "without any movement too";
+    EXPECT_THAT(dropped, ElementsAre(2));
+    EXPECT_TRUE(recorded.played.isEmpty());
+}
+
+TEST_F(Board, ADragWithAnyButtonMovesTheCardWithoutBoundAndItsFrameWithIt)
+{
+    drag({310, 215}, {980, 5}, Qt::MiddleButton);
+    EXPECT_EQ(session.box[2].left, 970);
+    EXPECT_EQ(session.box[2].top, -10);
+    EXPECT_EQ(session.SelectBox.left, 968);
+    EXPECT_EQ(session.SelectBox.top, -12);
+    EXPECT_EQ(session.cardValue[2][0], QStringLiteral("0970-0010"));
+    EXPECT_EQ(session.box[1].left, 100);
+}
+
+TEST_F(Board, ACardIsRaisedByMerelyPassingOverIt)
+{
+    EXPECT_EQ(colourAt(150, 140), QColor(Qt::blue));
+    move({110, 110});
+    EXPECT_EQ(session.cardStack.fromBelow().back(), 1);
+    EXPECT_EQ(colourAt(150, 140), QColor(Qt::red));
+    EXPECT_EQ(session.selectedCard, 0);
+    press({150, 140});
+    EXPECT_EQ(session.selectedCard, 1);
+}
+
+TEST_F(Board, TheRightButtonDragsTooAndPlaysTheSoundAtTheEnd)
+{
+    session.dbPath = testFolder().chopped(1);
+    putFile(inTestFolder(QStringLiteral("CARDAAA2.snd")), "RIFF");
+    drag({310, 215}, {410, 315}, Qt::RightButton);
+    EXPECT_EQ(session.box[2].left, 400);
+    ASSERT_EQ(recorded.played.size(), 1);
+    EXPECT_TRUE(recorded.played[0].endsWith(QStringLiteral("CARDAAA2.snd")));
+}
+
+TEST_F(Board, ADoubleClickTurnsTheRefreshOffAndOpensTheEditor)
+{
+    screen.openCard = [this](int card) {
+        EXPECT_EQ(refresh, QStringList(QStringLiteral("Off")));
+        opened.push_back(card);
+        throw RuntimeError(fileNotFound); // must not get into the window system
+    };
+    QTest::mouseDClick(&board, Qt::LeftButton, {}, {310, 215});
+    EXPECT_THAT(opened, ElementsAre(2));
+    EXPECT_EQ(recorded.messages, QStringList(QStringLiteral("Error|File not found")));
+    QTest::mouseDClick(&board, Qt::LeftButton, {}, {600, 600});
+    EXPECT_THAT(opened, ElementsAre(2));
+}
+
+TEST_F(Board, AClickOnTheBareBoardClosesTheMenuAndHidesTheFrame)
+{
+    session.openMenuIndex = 2;
+    session.MenuHolder.visible = session.SelectBox.visible = true;
+    session.selectedCard = 3;
+    QTest::mouseClick(&board, Qt::LeftButton, {}, {600, 600});
+    EXPECT_EQ(session.openMenuIndex, -1);
+    EXPECT_FALSE(session.MenuHolder.visible || session.SelectBox.visible);
+    EXPECT_EQ(session.selectedCard, 3);
+}
+
+TEST_F(Board, TheBinIsDraggedExplainsItselfAndClosesByItsLid)
+{
+    session.BigBin = {{600, 300, 128, 150, true}, false};
+    move({660, 430});
+    EXPECT_EQ(hints,
+              QStringList(QStringLiteral("Click and drag the bin anywhere on the screen , Click on the "
+                                         "lid to close it")));
+    drag({660, 430}, {260, 380});
+    EXPECT_EQ(session.BigBin.left, 200);
+    EXPECT_EQ(session.BigBin.top, 250);
+    EXPECT_TRUE(dropped.empty());
+
+    press({320, 240}); // card 2 lies over the bin
+    EXPECT_EQ(session.selectedCard, 2);
+    release({320, 240});
+
+    hidden = 0;
+    press({250, 260});
+    EXPECT_TRUE(session.BigBin.lidPressed);
+    EXPECT_TRUE(session.BigBin.visible);
+    release({250, 260});
+    EXPECT_FALSE(session.BigBin.visible || session.BigBin.lidPressed);
+    EXPECT_GT(hidden, 0);
+}
+
+TEST_F(Board, ACardWithASoundShowsItAtThePointerAskingTheFolderOnceAPass)
+{
+    session.dbPath = testFolder().chopped(1);
+    const QString sound = inTestFolder(QStringLiteral("CARDAAA2.snd"));
+    putFile(sound, "RIFF");
+    const auto cursorBecomes = [](CardCursor cursor) {
+        return QTest::qWaitFor([cursor] { return session.box[2].cursor == cursor; });
+    };
+    move({310, 215});
+    EXPECT_TRUE(cursorBecomes(CardCursor::cardSound));
+    QFile::remove(sound);
+    press({310, 215});
+    EXPECT_EQ(session.box[2].cursor, CardCursor::handClosed);
+    move({320, 215}, Qt::LeftButton);
+    EXPECT_EQ(session.box[2].cursor, CardCursor::cardSound) << "remembered during the pass";
+    release({320, 215});
+    move({320, 600});
+    move({320, 215});
+    EXPECT_TRUE(cursorBecomes(CardCursor::handOpen));
+}
+
+TEST_F(Board, TellsTheLabelOfTheTopmostCardAsPlainText)
+{
+    EXPECT_EQ(tipAt({150, 140}), QStringLiteral("<p>Card &lt;3&gt;</p>"));
+    for (const QPoint& bare : {QPoint(310, 215), QPoint(600, 600)}) {
+        session.box[2].tooltip.clear();
+        tipAt(bare);
+        EXPECT_TRUE(QTest::qWaitFor([] { return !QToolTip::isVisible(); }));
+    }
+}
+
+TEST_F(Board, ADragEndsWhenAReloadGivesTheNumberToAnotherCard)
+{
+    press({310, 215});
+    session.cardId[2] = QStringLiteral("OTHERONE");
+    move({600, 600}, Qt::LeftButton);
+    EXPECT_EQ(session.box[2].left, 300);
+}
+
+TEST_F(Board, AFingerDragsAndOpensCards)
+{
+    const std::unique_ptr<QPointingDevice> screenDevice(QTest::createTouchDevice());
+    auto touch = [&] { return QTest::touchEvent(&board, screenDevice.get()); };
+    touch().press(0, QPoint(310, 215), &board);
+    touch().move(0, QPoint(330, 225), &board);
+    touch().move(0, QPoint(510, 415), &board);
+    touch().release(0, QPoint(510, 415), &board);
+    EXPECT_EQ(session.box[2].left, 500);
+    EXPECT_EQ(session.box[2].top, 400);
+    EXPECT_THAT(dropped, ElementsAre(2));
+
+    for (int tap = 0; tap < 2; ++tap) {
+        touch().press(0, QPoint(510, 415), &board);
+        touch().release(0, QPoint(510, 415), &board);
+    }
+    EXPECT_THAT(opened, ElementsAre(2));
+}
