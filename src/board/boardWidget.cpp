@@ -1,6 +1,7 @@
 #include "board/boardWidget.h"
 
 #include "core/screen.h"
+#include "platform/picture.h"
 
 #include <QCursor>
 #include <QFontMetrics>
@@ -16,15 +17,12 @@ namespace {
 constexpr QSize pointerSize(32, 32);
 
 struct PointerPicture {
-    const char* file;
+    const char* name;
     QPoint hotSpot;
 };
 constexpr PointerPicture pointerPictures[] = {
     {nullptr, {}}, // the arrow is the desktop's
-    {":/pictures/handOpen.svg", {16, 14}},
-    {":/pictures/handClosed.svg", {16, 14}},
-    {":/pictures/cardSound.svg", {13, 19}},
-    {":/pictures/binCursor.svg", {16, 16}},
+    {"handOpen", {16, 14}}, {"handClosed", {16, 14}}, {"cardSound", {13, 19}}, {"binCursor", {16, 16}},
 };
 
 QRect shownRect(const CardImage& card) { return card.visible ? wholePixels(card) : QRect(); }
@@ -35,7 +33,6 @@ QRect shownRect(const BoardShape& shape) { return shape.visible ? wholePixels(sh
 BoardWidget::BoardWidget(QWidget* parent)
     : QWidget(parent)
 {
-    setObjectName(QStringLiteral("Board"));
     setAccessibleName(QStringLiteral("Board"));
     setMouseTracking(true);
     setAttribute(Qt::WA_OpaquePaintEvent);
@@ -154,13 +151,12 @@ void BoardWidget::showPointer(QPointF point)
     if (wanted == pointer)
         return;
     pointer = wanted;
-    const auto& [file, hotSpot] = pointerPictures[int(wanted)];
-    if (file == nullptr) {
+    const auto& [name, hotSpot] = pointerPictures[int(wanted)];
+    if (name == nullptr) {
         unsetCursor();
         return;
     }
-    const QPixmap picture = QIcon(QLatin1String(file)).pixmap(pointerSize, devicePixelRatioF());
-    setCursor(QCursor(picture, hotSpot.x(), hotSpot.y()));
+    setCursor(QCursor(picture(QLatin1String(name), pointerSize), hotSpot.x(), hotSpot.y()));
 }
 
 // ---- the tool tip ----

@@ -7,6 +7,7 @@
 #include "board/boardPainter.h"
 #include "board/hand.h"
 #include "core/session.h"
+#include "platform/picture.h"
 
 #include <QWidget>
 
@@ -46,8 +47,8 @@ private:
     QColor paper = Qt::white;
     QColor leftTint = Qt::transparent;
     QColor rightTint = Qt::transparent;
-    const QIcon binUp{QStringLiteral(":/pictures/binUp.svg")};
-    const QIcon binDown{QStringLiteral(":/pictures/binDown.svg")};
+    const QIcon binUp{picturePath(QStringLiteral("binUp"))};
+    const QIcon binDown{picturePath(QStringLiteral("binDown"))};
     Hand hand;
     Hand::Pointer pointer = Hand::Pointer::arrow;
 

@@ -1,4 +1,5 @@
 #include "core/Form1.h"
+#include "board/boardWidget.h"
 
 #include "core/dispatch.h"
 #include "core/mainSettings.h"
@@ -87,7 +88,7 @@ void showInWindow()
 } // namespace
 
 Form1::Form1()
-    : board(named(new QWidget(this), "board"))
+    : board(named(new BoardWidget(this), "board"))
     , toolbarBlock(named(new QWidget(this), "toolbarBlock"))
     , menuBar(new MenuBar(this))
     , btnCards(modeButton("btnCards", "card", QStringLiteral("modeCards"), QStringLiteral("Card Mode")))
@@ -131,6 +132,7 @@ void Form1::connectControls()
 void Form1::load()
 {
     showInWindow();
+    board->connectScreen();
     setControlsAtStart();
     setTitle(titleWithoutDatabase());
     desktop.setBusyPointer(false);

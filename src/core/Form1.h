@@ -10,6 +10,8 @@
 #include <QTimer>
 #include <QWidget>
 
+class BoardWidget;
+
 class Form1 : public QWidget {
     Q_OBJECT
 public:
@@ -21,7 +23,7 @@ public:
     /// The controls take their states in the session.
     void showControls();
 
-    QWidget* const board;
+    BoardWidget* const board;
     QWidget* const toolbarBlock;
     MenuBar* const menuBar;
     QPushButton* const btnCards;

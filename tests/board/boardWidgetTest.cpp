@@ -3,6 +3,7 @@
 #include "core/screen.h"
 #include "support/files.h"
 
+#include <QApplication>
 #include <QHelpEvent>
 #include <QMouseEvent>
 #include <QPaintEvent>
@@ -298,6 +299,8 @@ TEST_F(Board, AFingerDragsAndOpensCards)
 {
     const std::unique_ptr<QPointingDevice> screenDevice(QTest::createTouchDevice());
     auto touch = [&] { return QTest::touchEvent(&board, screenDevice.get()); };
+    const int interval = QApplication::doubleClickInterval();
+    QApplication::setDoubleClickInterval(0); // whatever was pressed before is not the first of two taps
     touch().press(0, QPoint(310, 215), &board);
     touch().move(0, QPoint(330, 225), &board);
     touch().move(0, QPoint(510, 415), &board);
@@ -306,6 +309,7 @@ TEST_F(Board, AFingerDragsAndOpensCards)
     EXPECT_EQ(session.box[2].top, 400);
     EXPECT_THAT(dropped, ElementsAre(2));
 
+    QApplication::setDoubleClickInterval(interval);
     for (int tap = 0; tap < 2; ++tap) {
         touch().press(0, QPoint(510, 415), &board);
         touch().release(0, QPoint(510, 415), &board);
