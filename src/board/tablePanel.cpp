@@ -10,10 +10,6 @@
 
 namespace {
 
-constexpr int gridMargin = 8;
-constexpr int besideGrid = 20 + 21; // pixels of the panel's width that the grid leaves
-constexpr int scrollFromRight = 32;
-constexpr int scrollWidth = 28;
 constexpr double turnOfOneRow = 120; // eighths of a degree
 
 } // namespace
@@ -31,14 +27,17 @@ TablePanel::TablePanel(QWidget* parent)
             [](int value) { guarded([&] { scrollTableTo(value); }); });
 }
 
-void TablePanel::measureGrid()
+void TablePanel::layOut(const QRect& gridPlace, const QRect& scrollPlace)
 {
-    TableGrid& grid = session.Grid;
-    grid.width = width() - besideGrid;
-    grid.height = height() - 2 * gridMargin;
-    Grid->setGeometry(gridMargin, gridMargin, grid.width, grid.height);
-    gridScroll->setGeometry(width() - scrollFromRight, gridMargin, scrollWidth, grid.height);
-    grid.headerHeight = Grid->headerHeight();
+    Grid->setGeometry(gridPlace);
+    gridScroll->setGeometry(scrollPlace);
+    session.Grid.width = gridPlace.width();
+    session.Grid.height = gridPlace.height();
+    session.Grid.headerHeight = Grid->headerHeight();
+    if (!session.tablePanel.visible)
+        return;
+    layoutTable();
+    fillTable();
 }
 
 void TablePanel::showGrid()
@@ -48,18 +47,6 @@ void TablePanel::showGrid()
     gridScroll->setPageStep(session.gridScroll.largeChange);
     gridScroll->setValue(session.gridScroll.value);
     Grid->showGrid();
-}
-
-void TablePanel::resizeEvent(QResizeEvent* event)
-{
-    QFrame::resizeEvent(event);
-    guarded([this] {
-        measureGrid();
-        if (!session.tablePanel.visible)
-            return;
-        layoutTable();
-        fillTable();
-    });
 }
 
 void TablePanel::wheelEvent(QWheelEvent* event)

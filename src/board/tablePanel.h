@@ -12,14 +12,13 @@ class TablePanel : public QFrame {
 public:
     explicit TablePanel(QWidget* parent);
 
-    /// Tells the session the grid's measures for the panel's present size.
-    void measureGrid();
+    /// Gives grid and scroll bar their places on the panel and the table, when it is in view, its new rows.
+    void layOut(const QRect& gridPlace, const QRect& scrollPlace);
 
     /// Takes over cells, faces and scroll bar from the session.
     void showGrid();
 
 protected:
-    void resizeEvent(QResizeEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
 
 private:

@@ -1,7 +1,9 @@
 #include "core/Form1.h"
 #include "board/boardWidget.h"
+#include "board/mode.h"
+#include "board/tablePanel.h"
 
-#include "core/dispatch.h"
+#include "core/assembly.h"
 #include "core/mainSettings.h"
 #include "core/screen.h"
 #include "core/session.h"
@@ -15,6 +17,7 @@
 #include "platform/errors.h"
 #include "platform/forms.h"
 #include "platform/picture.h"
+#include "store/loading.h"
 
 #include <QApplication>
 #include <QCloseEvent>
@@ -67,24 +70,6 @@ bool opensTeacherOptions(const QKeyEvent& key)
            QString(QChar(key.key())).toUpper() == session.keysValue;
 }
 
-void showInWindow()
-{
-    screen.showTitle = [] {
-        if (isLoaded<Form1>())
-            form<Form1>().setWindowTitle(session.title);
-    };
-    screen.showControls = [] {
-        if (isLoaded<Form1>())
-            form<Form1>().showControls();
-    };
-    screen.showHint = [](const QString& text) {
-        if (isLoaded<Form1>())
-            showHint(form<Form1>(), text);
-    };
-    screen.hideHints = endHint;
-    screen.command = runCommand;
-}
-
 } // namespace
 
 Form1::Form1()
@@ -97,7 +82,7 @@ Form1::Form1()
     , refreshCheck(named(new QCheckBox(QStringLiteral("Refresh Database")), "refreshCheck"))
     , cmdQuestion(bandButton("cmdQuestion", QStringLiteral("clue"), QStringLiteral("Show Clues")))
     , cmdCopyGraph(named(new QPushButton(QStringLiteral("Copy Graph")), "cmdCopyGraph"))
-    , tablePanel(named(new QWidget(this), "tablePanel"))
+    , tablePanel(new TablePanel(this))
     , tmrDelCard(onceTimer("tmrDelCard", 2, this))
     , TmrShow(onceTimer("TmrShow", 3000, this))
 {
@@ -120,6 +105,11 @@ void Form1::fillBand()
 
 void Form1::connectControls()
 {
+    for (QPushButton* button : {btnCards, btnTable})
+        connect(button, &QPushButton::clicked, this, [this, button] {
+            guarded([this, button] { changeMode(*button); });
+            showControls(); // a button whose view couldn't be read springs back
+        });
     onClick(refreshCheck, [this] {
         ::screen.setRefresh(refreshCheck->isChecked() ? QStringLiteral("On") : QStringLiteral("Off"));
     });
@@ -129,10 +119,20 @@ void Form1::connectControls()
     qApp->installEventFilter(this); // the window sees every key before the control that has the focus
 }
 
+/// A pupil's click on a mode button reads the folder again.
+void Form1::changeMode(const QPushButton& button)
+{
+    loadAllCards();
+    session.graphOnScreen = 0;
+    session.btnCards.pressed = &button == btnCards;
+    session.btnTable.pressed = &button == btnTable;
+    session.cmdCopyGraph.visible = false;
+    setMode(button.property("Tag").toString());
+}
+
 void Form1::load()
 {
-    showInWindow();
-    board->connectScreen();
+    assemble(*this);
     setControlsAtStart();
     setTitle(titleWithoutDatabase());
     desktop.setBusyPointer(false);
@@ -149,6 +149,7 @@ void Form1::layoutWindow()
         const WindowLayout place = windowLayout(size(), desktop.screenSize().width());
         toolbarBlock->setGeometry(place.toolbarBlock);
         tablePanel->setGeometry(place.tablePanel);
+        tablePanel->layOut(place.Grid, place.gridScroll);
     } catch (const RuntimeError&) {
         desktop.showMessage(MessageIcon::exclamation, QStringLiteral("Tallymoor"),
                             QStringLiteral("You cannot resize Tallymoor to this size!"));

@@ -12,6 +12,8 @@
 
 class BoardWidget;
 
+class TablePanel;
+
 class Form1 : public QWidget {
     Q_OBJECT
 public:
@@ -32,7 +34,7 @@ public:
     QCheckBox* const refreshCheck;
     QPushButton* const cmdQuestion;
     QPushButton* const cmdCopyGraph;
-    QWidget* const tablePanel;
+    TablePanel* const tablePanel;
     QTimer* const tmrDelCard; // 2 ms, once: reads its option again
     QTimer* const TmrShow;    // 3000 ms, once: does nothing more
 
@@ -44,4 +46,5 @@ protected:
 private:
     void fillBand();
     void connectControls();
+    void changeMode(const QPushButton& button);
 };

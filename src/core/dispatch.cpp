@@ -1,12 +1,15 @@
 #include "core/dispatch.h"
 
 #include "board/labels.h"
-#include "board/mode.h"
 #include "core/menu.h"
 #include "core/screen.h"
 #include "core/session.h"
 #include "core/shutDown.h"
 #include "platform/desktop.h"
+#include "store/cardFiles.h"
+#include "store/openDatabase.h"
+#include "tools/bin.h"
+#include "tools/toolCommands.h"
 
 #include <algorithm>
 
@@ -24,11 +27,10 @@ const Refusal noGraph{
 
 void nothing() {}
 
-void bringOutTheBin()
+void openAnother()
 {
-    showCardMode();
-    session.BigBin.visible = true;
-    screen.redrawBoard();
+    deleteAnswers();
+    endingOnError(openDatabase);
 }
 
 void tellThatTheDataMapIsMissing()
@@ -41,18 +43,18 @@ void tellThatTheDataMapIsMissing()
 
 const MenuLine lines[] = {
     {QStringLiteral("New"), QStringLiteral("menuNew"), 0, nullptr},
-    {QStringLiteral("Open..."), QStringLiteral("menuOpen"), 0, nullptr},
+    {QStringLiteral("Open..."), QStringLiteral("menuOpen"), 0, openAnother},
     {QStringLiteral("Save"), {}, asItWas, nothing},
     {QStringLiteral("Save As..."), {}, asItWas, nothing},
     {QStringLiteral("Print..."), QStringLiteral("menuPrint"), asItWas, nullptr},
     {QStringLiteral("Exit"), QStringLiteral("menuExit"), 0, shutDown},
     {QStringLiteral("Add Card..."), QStringLiteral("menuAddCard"), 0, nullptr},
-    {QStringLiteral("Delete Card"), QStringLiteral("menuDeleteCard"), 0, bringOutTheBin},
+    {QStringLiteral("Delete Card"), QStringLiteral("menuDeleteCard"), 0, showBin},
     {QStringLiteral("Design Cards..."), QStringLiteral("menuDesignCards"), 0, nullptr},
-    {QStringLiteral("Arrange Cards..."), QStringLiteral("menuArrangeCards"), 0, nullptr},
-    {QStringLiteral("Find..."), QStringLiteral("menuFind"), 0, nullptr},
-    {QStringLiteral("Sort..."), QStringLiteral("menuSort"), 0, nullptr},
-    {QStringLiteral("Group..."), QStringLiteral("menuGroup"), 0, nullptr},
+    {QStringLiteral("Arrange Cards..."), QStringLiteral("menuArrangeCards"), 0, arrangeCommand},
+    {QStringLiteral("Find..."), QStringLiteral("menuFind"), 0, findCommand},
+    {QStringLiteral("Sort..."), QStringLiteral("menuSort"), 0, sortCommand},
+    {QStringLiteral("Group..."), QStringLiteral("menuGroup"), 0, groupCommand},
     {QStringLiteral("Make Graph..."), QStringLiteral("menuMakeGraph"), 1, nullptr, &noGraph},
     {QStringLiteral("Report..."), QStringLiteral("menuReport"), 0, nullptr, &noReport},
     {QStringLiteral("Statistics..."), QStringLiteral("menuStatistics"), 0, nullptr, &noStatistics},

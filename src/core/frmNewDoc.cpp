@@ -7,6 +7,7 @@
 #include "platform/errors.h"
 #include "platform/forms.h"
 #include "platform/picture.h"
+#include "store/opening.h"
 #include "store/settings.h"
 
 #include <QEvent>
@@ -180,6 +181,7 @@ void frmNewDoc::begin()
     } else if (Option3->isChecked()) {
         watchOverview();
     } else if (Option4->isChecked()) {
+        openLastDatabase();
         unload<frmNewDoc>();
     }
 }

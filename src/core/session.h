@@ -99,9 +99,9 @@ struct TableGrid {
     int headerHeight = 0;
     int cols = 0;
     int rows = 0;
-    std::vector<int> columnWidths;         // pixels, one for each column
+    std::vector<int> columnWidths;          // pixels, one for each column
     std::vector<std::vector<QString>> text; // [row][column]
-    std::vector<QImage> face;              // [row]
+    std::vector<QImage> face;               // [row]
 };
 
 struct TableScroll {

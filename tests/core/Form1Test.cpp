@@ -1,5 +1,8 @@
 #include "core/Form1.h"
 
+#include "board/boardWidget.h"
+#include "board/tablePanel.h"
+
 #include "core/screen.h"
 #include "core/session.h"
 #include "core/title.h"

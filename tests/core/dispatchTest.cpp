@@ -69,8 +69,7 @@ TEST_F(Dispatch, TheseWordsStillWaitForTheirCommand)
             waiting.append(word);
     }
     EXPECT_EQ(waiting.join(QLatin1Char('|')),
-              QStringLiteral("New|Open...|Print...|Add Card...|Design Cards...|Arrange Cards...|Find...|"
-                             "Sort...|Group...|Make Graph...|Report...|Statistics...|Help"));
+              QStringLiteral("New|Print...|Add Card...|Design Cards...|Make Graph...|Report...|Statistics...|Help"));
 }
 
 TEST_F(Dispatch, EveryCommandFirstClearsTheTableAndClosesTheMenu)
