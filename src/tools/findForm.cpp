@@ -175,6 +175,7 @@ void findForm::prepare()
     }
     showRow(1, false);
     showRow(2, false);
+    move((desktop.screenSize().width() - windowWidth) / 2, y());
     vennTick->setChecked(false);
     session.vennTick = false;
     takeHeight(heightOfOneRow);

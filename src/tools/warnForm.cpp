@@ -65,6 +65,7 @@ void warnForm::askAbout(int card)
     const int room = desktop.screenSize().width() - 2 * ActionPic->width() - 2 * captionMargin;
     DiBoxCaption->ensurePolished();
     DiBoxCaption->setText(DiBoxCaption->fontMetrics().elidedText(question, Qt::ElideMiddle, room));
+    DiBoxCaption->setFixedWidth(DiBoxCaption->sizeHint().width());
     DiBoxCaption->setAccessibleName(question);
     setMinimumWidth(int(leastWidth / session.twipsPerPixelX));
     adjustSize();

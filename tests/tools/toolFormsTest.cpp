@@ -1,0 +1,189 @@
+// The tools' dialogs, driven as a child would.
+#include "tools/FrmSpeed.h"
+#include "tools/findForm.h"
+#include "tools/toolCommands.h"
+
+#include "board/mode.h"
+#include "core/screen.h"
+#include "platform/forms.h"
+#include "support/cards.h"
+#include "support/freshStart.h"
+#include "tools/moveForm.h"
+#include "tools/pacing.h"
+#include "tools/warnForm.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QSlider>
+#include <QTest>
+
+using testing::ElementsAre;
+
+namespace {
+
+class ToolForms : public Fresh {
+protected:
+    ToolForms()
+    {
+        session.numFields = 2;
+        session.fieldName[1] = QStringLiteral("Name");
+        session.fieldName[2] = QStringLiteral("Legs");
+        cards({QStringLiteral("pear"), QStringLiteral("apple")});
+        session.fieldType[2] = QStringLiteral("123");
+        session.sortDirection = QStringLiteral("ABC");
+        screen.showSpeedWindow = [] { speedChosen(9); };
+    }
+
+    template <class Control>
+    static Control& part(QWidget& dialog, const char* name)
+    {
+        auto* found = dialog.findChild<Control*>(QLatin1String(name));
+        if (found == nullptr)
+            throw std::runtime_error(std::string("no ") + name);
+        return *found;
+    }
+
+    static void pick(QWidget& dialog, const char* combo, const char* text)
+    {
+        part<QComboBox>(dialog, combo).setCurrentText(QLatin1String(text));
+    }
+
+    static void press(QWidget& dialog, const char* button)
+    {
+        QTest::mouseClick(&part<QPushButton>(dialog, button), Qt::LeftButton);
+    }
+
+    static void answer(const std::function<void(QDialog&)>& step) { recorded.dialogSteps.push_back(step); }
+};
+
+} // namespace
+
+TEST_F(ToolForms, SortByTheFieldPickedAndKeepTheDirectionForTheNextTime)
+{
+    session.cardValue[1][2] = QStringLiteral("4");
+    session.cardValue[2][2] = QStringLiteral("10");
+    answer([](QDialog& dialog) {
+        EXPECT_EQ(part<QComboBox>(dialog, "sortCombo").currentText(), QStringLiteral("Name"));
+        pick(dialog, "sortCombo", "Legs");
+        part<QRadioButton>(dialog, "sortOpt1").click();
+        QTest::keyClick(&dialog, Qt::Key_Return);
+    });
+    sortCommand();
+    EXPECT_EQ(session.chosenField, 2);
+    EXPECT_THAT(cardsByTop(), ElementsAre(2, 1));
+
+    answer([](QDialog& dialog) {
+        EXPECT_TRUE(part<QRadioButton>(dialog, "sortOpt1").isChecked());
+        QTest::keyClick(&dialog, Qt::Key_Escape);
+    });
+    session.box[1].top = 5;
+    sortCommand();
+    EXPECT_EQ(session.box[1].top, 5) << "Escape cancels";
+}
+
+TEST_F(ToolForms, FindTellsTheNumberOfCards)
+{
+    answer([](QDialog& dialog) {
+        EXPECT_EQ(dialog.height(), 244);
+        EXPECT_FALSE(part<QWidget>(dialog, "vennTick").isVisible());
+        pick(dialog, "fieldCombo0", "Name");
+        pick(dialog, "compBox0", "includes");
+        QTest::keyClicks(&part<QLineEdit>(dialog, "valBox0"), QStringLiteral("pp"));
+        press(dialog, "YesBut");
+    });
+    findCommand();
+    EXPECT_THAT(recorded.messages, ElementsAre(QStringLiteral("Find Results|Number of cards found: 1")));
+    EXPECT_EQ(session.searchTitle.text, QStringLiteral("Search for: Name includes pp "));
+}
+
+TEST_F(ToolForms, FindShowsItsRowsByTheWindowsHeight)
+{
+    findForm& find = form<findForm>();
+    find.prepare();
+    find.show();
+    struct Step {
+        const char* box;
+        const char* word;
+        int height;
+        bool venn;
+    };
+    // Setting the first word back leaves the second one, and with it a height of its own.
+    constexpr Step steps[] = {{"andOr0", "and", 366, true},
+                              {"andOr1", "or", 433, false},
+                              {"andOr1", " ", 420, true},
+                              {"andOr0", "or", 366, false},
+                              {"andOr0", " ", 244, false}};
+    for (const Step& each : steps) {
+        pick(find, each.box, each.word);
+        EXPECT_EQ(find.height(), each.height) << each.box << each.word;
+        EXPECT_EQ(part<QCheckBox>(find, "vennTick").isVisible(), each.venn) << each.box << each.word;
+    }
+}
+
+TEST_F(ToolForms, FindTakesOnlyNumbersForANumberFieldAndAnswersFromItsList)
+{
+    session.fieldUseList[2] = true;
+    session.fieldListItem[2][3] = QStringLiteral("8");
+    findForm& find = form<findForm>();
+    find.prepare();
+    find.show();
+    EXPECT_FALSE(part<QWidget>(find, "pullDownBut0").isVisible());
+    pick(find, "fieldCombo0", "Legs");
+    QTest::keyClicks(&part<QLineEdit>(find, "valBox0"), QStringLiteral("a-1,2.5"));
+    EXPECT_EQ(session.findRow[0].value, QStringLiteral("-12.5"));
+    press(find, "pullDownBut0");
+    EXPECT_TRUE(part<QWidget>(find, "AnswerHolder").isVisible());
+    press(find, "pullDownBut0");
+    EXPECT_FALSE(part<QWidget>(find, "AnswerHolder").isVisible());
+    press(find, "pullDownBut0");
+    press(find, "possAnswer3");
+    EXPECT_EQ(session.findRow[0].value, QStringLiteral("8"));
+    EXPECT_FALSE(part<QWidget>(find, "AnswerHolder").isVisible());
+}
+
+TEST_F(ToolForms, ArrangeLaysOutWhatThePreviewShows)
+{
+    answer([](QDialog& dialog) {
+        pick(dialog, "moveCombo", "Right");
+        EXPECT_EQ(part<QWidget>(dialog, "smallBox1").y() - part<QWidget>(dialog, "smallBox0").y(), 26);
+        press(dialog, "ok_but");
+    });
+    arrangeCommand();
+    EXPECT_EQ(session.box[1].left, 912);
+}
+
+TEST_F(ToolForms, TheSpeedWindowPausesResumesAndEndsARun)
+{
+    QWidget window;
+    window.resize(1000, 700);
+    installSpeedWindow(window);
+    beginRun();
+    FrmSpeed& speed = form<FrmSpeed>();
+    part<QSlider>(speed, "Slider1").setValue(8);
+    EXPECT_EQ(session.animationSpeed, 5);
+    press(speed, "BtnPause");
+    EXPECT_EQ(session.animationSpeed, 0);
+    EXPECT_FALSE(part<QWidget>(speed, "BtnPause").isVisible());
+    part<QSlider>(speed, "Slider1").setValue(1);
+    press(speed, "BtnResume");
+    EXPECT_EQ(session.animationSpeed, 0.1);
+    speed.close();
+    EXPECT_TRUE(session.animationStopped);
+    EXPECT_FALSE(isLoaded<FrmSpeed>());
+}
+
+TEST_F(ToolForms, TheQuestionAboutACardGrowsWithItsLabel)
+{
+    session.cardValue[1][1] = QStringLiteral("ox");
+    form<warnForm>().askAbout(1);
+    EXPECT_EQ(form<warnForm>().width(), 4275 / 15);
+    session.cardValue[1][1] = QString(60, QLatin1Char('x'));
+    form<warnForm>().askAbout(1);
+    EXPECT_GT(form<warnForm>().width(), 4275 / 15);
+    session.cardValue[1][1] = QString(5000, QLatin1Char('x'));
+    form<warnForm>().askAbout(1);
+    EXPECT_LT(form<warnForm>().width(), 1280);
+}
