@@ -65,9 +65,10 @@ void warnForm::askAbout(int card)
     const int room = desktop.screenSize().width() - 2 * ActionPic->width() - 2 * captionMargin;
     DiBoxCaption->ensurePolished();
     DiBoxCaption->setText(DiBoxCaption->fontMetrics().elidedText(question, Qt::ElideMiddle, room));
-    DiBoxCaption->setFixedWidth(DiBoxCaption->sizeHint().width());
     DiBoxCaption->setAccessibleName(question);
     setMinimumWidth(int(leastWidth / session.twipsPerPixelX));
+    layout()->invalidate(); // a caption that was never shown doesn't tell its layout of its growth
+    layout()->activate();
     adjustSize();
 }
 
