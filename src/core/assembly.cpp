@@ -1,6 +1,7 @@
 #include "core/assembly.h"
 
 #include "board/boardWidget.h"
+#include "board/refresh.h"
 #include "board/tablePanel.h"
 #include "board/tableView.h"
 #include "core/Form1.h"
@@ -41,6 +42,7 @@ void connectWindow()
 void connectCommands()
 {
     screen.command = runCommand;
+    screen.setRefresh = setRefresh;
     screen.openDatabase = openDatabase;
     screen.cardDropped = checkDropOnBin;
 }

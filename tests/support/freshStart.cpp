@@ -1,5 +1,6 @@
 #include "support/freshStart.h"
 
+#include "board/refresh.h"
 #include "core/screen.h"
 #include "core/session.h"
 #include "platform/forms.h"
@@ -8,6 +9,7 @@
 #include <QCoreApplication>
 #include <QDialog>
 #include <QDir>
+#include <QTimer>
 
 Recorded recorded;
 
@@ -99,6 +101,8 @@ void freshStart()
     screen = blankScreen();
     recorded = {};
     forgetLoadedFaces();
+    refreshTimer().stop();
+    refreshTimer().setInterval(2000);
     folder = std::make_unique<QTemporaryDir>();
     desktop = recordingDesktop();
     modalLoop = answerPrepared;
