@@ -73,7 +73,7 @@ Desktop recordingDesktop()
     d.twipsPerPixelY = [] { return 15.0; };
     d.pixelRatio = [] { return 1.0; };
     d.programFolder = [] { return testFolder().chopped(1); };
-    d.documentsFolder = [] { return testFolder() + QStringLiteral("Documents"); };
+    d.documentsFolder = []() -> QString { return testFolder() + QStringLiteral("Documents"); };
     d.volumes = [] { return QList<Volume>(); };
     return d;
 }
