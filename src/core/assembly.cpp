@@ -8,6 +8,7 @@
 #include "core/dispatch.h"
 #include "core/screen.h"
 #include "core/session.h"
+#include "editing/newCommand.h"
 #include "platform/balloon.h"
 #include "platform/forms.h"
 #include "store/openDatabase.h"
@@ -43,6 +44,7 @@ void connectCommands()
 {
     screen.command = runCommand;
     screen.setRefresh = setRefresh;
+    screen.newDatabase = makeNewDatabase;
     screen.openDatabase = openDatabase;
     screen.cardDropped = checkDropOnBin;
 }

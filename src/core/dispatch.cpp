@@ -5,6 +5,8 @@
 #include "core/screen.h"
 #include "core/session.h"
 #include "core/shutDown.h"
+#include "editing/designCommand.h"
+#include "editing/newCommand.h"
 #include "platform/desktop.h"
 #include "store/cardFiles.h"
 #include "store/openDatabase.h"
@@ -42,7 +44,7 @@ void tellThatTheDataMapIsMissing()
 }
 
 const MenuLine lines[] = {
-    {QStringLiteral("New"), QStringLiteral("menuNew"), 0, nullptr},
+    {QStringLiteral("New"), QStringLiteral("menuNew"), 0, closeDatabase},
     {QStringLiteral("Open..."), QStringLiteral("menuOpen"), 0, openAnother},
     {QStringLiteral("Save"), {}, asItWas, nothing},
     {QStringLiteral("Save As..."), {}, asItWas, nothing},
@@ -50,7 +52,7 @@ const MenuLine lines[] = {
     {QStringLiteral("Exit"), QStringLiteral("menuExit"), 0, shutDown},
     {QStringLiteral("Add Card..."), QStringLiteral("menuAddCard"), 0, nullptr},
     {QStringLiteral("Delete Card"), QStringLiteral("menuDeleteCard"), 0, showBin},
-    {QStringLiteral("Design Cards..."), QStringLiteral("menuDesignCards"), 0, nullptr},
+    {QStringLiteral("Design Cards..."), QStringLiteral("menuDesignCards"), 0, designCommand},
     {QStringLiteral("Arrange Cards..."), QStringLiteral("menuArrangeCards"), 0, arrangeCommand},
     {QStringLiteral("Find..."), QStringLiteral("menuFind"), 0, findCommand},
     {QStringLiteral("Sort..."), QStringLiteral("menuSort"), 0, sortCommand},

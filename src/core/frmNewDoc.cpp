@@ -2,9 +2,9 @@
 
 #include "core/screen.h"
 #include "core/shutDown.h"
-#include "platform/desktop.h"
+#include "core/tutorial.h"
 #include "platform/dialogParts.h"
-#include "platform/errors.h"
+#include "platform/fittedLabel.h"
 #include "platform/forms.h"
 #include "platform/picture.h"
 #include "store/opening.h"
@@ -14,8 +14,6 @@
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QIcon>
-#include <QPainter>
-#include <QStyle>
 #include <QVBoxLayout>
 
 namespace {
@@ -24,45 +22,9 @@ constexpr auto overview = "Oview";
 constexpr int pictureGap = 16;
 constexpr int textIndent = 84; // of an option's words: its circle and its picture come first
 
-/// Shows the folder's beginning and end when there is no room for all of it.
-class PathLabel : public QLabel {
-public:
-    PathLabel()
-    {
-        setTextFormat(Qt::PlainText);
-        setProperty("role", QStringLiteral("explanation"));
-        setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-    }
-
-protected:
-    void paintEvent(QPaintEvent*) override
-    {
-        QPainter painter(this);
-        style()->drawItemText(
-            &painter, contentsRect(), Qt::AlignLeft | Qt::AlignVCenter, palette(), isEnabled(),
-            fontMetrics().elidedText(text(), Qt::ElideMiddle, contentsRect().width()), foregroundRole());
-    }
-};
-
 QRadioButton* choice(const char* name, const QString& caption)
 {
     return named(new QRadioButton(caption), name);
-}
-
-void watchOverview()
-{
-    bool started = false;
-    ignoringErrors({[&] {
-        startTutorial(QLatin1String(overview));
-        started = true;
-    }});
-    if (started)
-        return;
-    desktop.beep();
-    if (desktop.ask(QStringLiteral("Confirm"),
-                    QStringLiteral("It appears you have not installed the Video Tutorials.\n"
-                                   "Would you like to install them now?")))
-        screen.installTutorials();
 }
 
 } // namespace
@@ -74,7 +36,7 @@ frmNewDoc::frmNewDoc()
     , Option2(choice("Option2", QStringLiteral("Open an existing Database")))
     , Option3(choice("Option3", QStringLiteral("Watch a video on how to make a Database")))
     , Option4(choice("Option4", QStringLiteral("Open last Database")))
-    , lblPath(named(new PathLabel, "lblPath"))
+    , lblPath(named(new FittedLabel, "lblPath"))
 {
     setWindowTitle(QStringLiteral("Welcome to Tallymoor"));
     auto* grid = new QGridLayout(this);
@@ -94,11 +56,9 @@ frmNewDoc::frmNewDoc()
     orderKeys(video);
     answers->ok->setEnabled(false); // until something is chosen
 
+    lblPath->setProperty("role", QStringLiteral("explanation"));
     onClick(answers->cancel, [] { unload<frmNewDoc>(); });
-    // The steps may open dialogs of their own: whoever pressed the button mustn't wait for those.
-    connect(
-        answers->ok, &QPushButton::clicked, this, [this] { guarded([this] { begin(); }); },
-        Qt::QueuedConnection);
+    onClickLater(answers->ok, [this] { begin(); });
 }
 
 QGroupBox* frmNewDoc::choices()
@@ -179,7 +139,7 @@ void frmNewDoc::begin()
         unload<frmNewDoc>();
         endingOnError(::screen.openDatabase);
     } else if (Option3->isChecked()) {
-        watchOverview();
+        watchTutorial(QLatin1String(overview));
     } else if (Option4->isChecked()) {
         openLastDatabase();
         unload<frmNewDoc>();

@@ -251,6 +251,7 @@ struct Session {
     WorkPicture Picture1{159, 120, {}, true};
     WorkPicture shrinkdummy{82, 62, {}, true}; // its size outlives the editor
     bool designReadOnly = false;               // ChkRD of the design dialog
+    bool fieldTableForgotten = false;          // reset although the database of dbPath may still be designed
 };
 
 extern Session session;

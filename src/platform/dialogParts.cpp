@@ -27,6 +27,18 @@ void onClick(QAbstractButton* button, const std::function<void()>& handler)
     QObject::connect(button, &QAbstractButton::clicked, button, [handler] { guarded(handler); });
 }
 
+void onClickLater(QAbstractButton* button, const std::function<void()>& handler)
+{
+    QObject::connect(
+        button, &QAbstractButton::clicked, button, [handler] { guarded(handler); }, Qt::QueuedConnection);
+}
+
+void onToggle(QAbstractButton* button, const std::function<void(bool)>& handler)
+{
+    QObject::connect(button, &QAbstractButton::toggled, button,
+                     [handler](bool ticked) { guarded([&] { handler(ticked); }); });
+}
+
 QPushButton* videoButton(const QString& tutorial)
 {
     auto* button = named(new QPushButton(QStringLiteral("Watch a video")), "BtnVid");

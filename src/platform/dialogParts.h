@@ -23,6 +23,13 @@ QLabel* pictureLabel(const QString& name, QSize size);
 /// Runs the handler at every click; an error ends it in the general error box.
 void onClick(QAbstractButton* button, const std::function<void()>& handler);
 
+/// The same for a handler that opens dialogs: it runs from the event loop, so that whoever pressed the
+/// button, such as a screen reader, doesn't wait for them.
+void onClickLater(QAbstractButton* button, const std::function<void()>& handler);
+
+/// Runs the handler whenever the button is ticked or unticked, by hand or by the program.
+void onToggle(QAbstractButton* button, const std::function<void(bool ticked)>& handler);
+
 /// "Watch a video": starts the tutorial of that name ("Entering Data") and passes over any error.
 QPushButton* videoButton(const QString& tutorial);
 

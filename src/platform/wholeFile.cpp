@@ -301,6 +301,20 @@ void replaceFile(const QString& path, const QByteArray& bytes)
         raiseFor(refusal == ENOENT ? ENOTDIR : refusal);
 }
 
+void makeFolder(const QString& path)
+{
+    if (::mkdir(systemName(path).constData(), 0777) == 0)
+        return;
+    switch (errno) {
+    case ENOENT:
+        throw RuntimeError(pathNotFound);
+    case EEXIST:
+        throw RuntimeError(pathAccessError);
+    default:
+        raiseFor(errno);
+    }
+}
+
 void sweepLeftovers(const QString& folder)
 {
     const QDir dir(folder);

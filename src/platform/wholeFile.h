@@ -20,6 +20,10 @@ QByteArray readWholeFile(const QString& path, qint64 limit = largestFile);
 /// before; this one way a reader may meet it between its two states.
 void replaceFile(const QString& path, const QByteArray& bytes);
 
+/// Makes a folder in one that is there. Raises 75 when the name is taken or the folder above can't be written
+/// to, 76 when that isn't there or the name is too long, 61, 70, 57 or 68 as replaceFile() does.
+void makeFolder(const QString& path);
+
 /// Removes what writes that were killed have left behind in the folder: those of this machine at once, others
 /// when they are older than ten minutes by the folder's own clock. Passes over whatever can't be removed.
 void sweepLeftovers(const QString& folder);

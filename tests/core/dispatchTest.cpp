@@ -69,7 +69,7 @@ TEST_F(Dispatch, TheseWordsStillWaitForTheirCommand)
             waiting.append(word);
     }
     EXPECT_EQ(waiting.join(QLatin1Char('|')),
-              QStringLiteral("New|Print...|Add Card...|Design Cards...|Make Graph...|Report...|Statistics...|Help"));
+              QStringLiteral("Print...|Add Card...|Make Graph...|Report...|Statistics...|Help"));
 }
 
 TEST_F(Dispatch, EveryCommandFirstClearsTheTableAndClosesTheMenu)

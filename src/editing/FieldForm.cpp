@@ -1,0 +1,218 @@
+#include "editing/FieldForm.h"
+
+#include "platform/balloon.h"
+#include "platform/dialogParts.h"
+#include "platform/forms.h"
+#include "platform/selectOnFocus.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QInputMethodEvent>
+#include <QKeyEvent>
+#include <QScrollArea>
+#include <QStyledItemDelegate>
+
+namespace {
+
+struct TypeLine {
+    QString type;
+    QString text;
+};
+
+const TypeLine typeLines[] = {
+    {QStringLiteral("Abc"), QStringLiteral("Abc - Letters and Numbers")},
+    {QStringLiteral("123"), QStringLiteral("123 - Numbers only")},
+};
+
+constexpr int halfWidth = 340;
+
+QLabel* labelFor(QWidget* control, const char* name, const QString& text)
+{
+    auto* label = named(new QLabel(text), name);
+    label->setBuddy(control);
+    return label;
+}
+
+} // namespace
+
+FieldForm::FieldForm()
+    : AnswerDialog(new AnswerButtons)
+    , fieldNameBox(named(new QLineEdit, "fieldNameBox"))
+    , BtnClear(named(new QPushButton(QStringLiteral("&Clear")), "BtnClear"))
+    , fieldType(named(new QComboBox, "fieldType"))
+    , UseList(named(new QCheckBox(QStringLiteral("Offer a &list of answers")), "UseList"))
+    , listLabel(named(new QLabel(QStringLiteral("&Answers to pick from:")), "listLabel"))
+    , AnswerHolder(named(new QWidget, "AnswerHolder"))
+    , Scroller1(named(new QScrollArea, "Scroller1"))
+{
+    setObjectName(QStringLiteral("FieldForm"));
+    setWindowTitle(QStringLiteral("Field Details"));
+    auto* lowest = new QHBoxLayout;
+    lowest->addWidget(answers);
+    lowest->addStretch();
+    lowest->addWidget(videoButton(QStringLiteral("Entering Data")));
+
+    auto* grid = new QGridLayout(this);
+    grid->setContentsMargins(16, 12, 16, 12);
+    grid->setHorizontalSpacing(24);
+    grid->setVerticalSpacing(12);
+    for (const int half : {0, 1}) {
+        grid->setColumnStretch(half, 1);
+        grid->setColumnMinimumWidth(half, halfWidth);
+    }
+    grid->addLayout(nameAndType(), 0, 0);
+    grid->addLayout(answerList(), 0, 1);
+    grid->addLayout(lowest, 1, 0, 1, 2);
+    connectControls();
+}
+
+QLayout* FieldForm::nameAndType()
+{
+    for (const TypeLine& line : typeLines)
+        fieldType->addItem(line.text);
+    fieldType->setItemDelegate(new QStyledItemDelegate(fieldType)); // rows as high as a finger
+    BtnClear->setAutoDefault(false);
+
+    auto* nameRow = new QHBoxLayout;
+    nameRow->addWidget(fieldNameBox);
+    nameRow->addWidget(BtnClear);
+    auto* column = new QVBoxLayout;
+    column->addWidget(labelFor(fieldNameBox, "fieldnameLabel", QStringLiteral("&Name of the field:")));
+    column->addLayout(nameRow);
+    column->addSpacing(8);
+    column->addWidget(labelFor(fieldType, "Label1", QStringLiteral("&Type of the answers:")));
+    column->addWidget(fieldType);
+    column->addSpacing(8);
+    column->addWidget(UseList);
+    column->addStretch();
+    return column;
+}
+
+QLayout* FieldForm::answerList()
+{
+    auto* list = new QWidget;
+    auto* rows = new QGridLayout(list);
+    for (int item = 1; item <= 12; ++item) {
+        possAnswer[item] = new QLineEdit;
+        possAnswer[item]->setObjectName(QStringLiteral("possAnswer%1").arg(item));
+        possAnswer[item]->setAccessibleName(QStringLiteral("Answer %1").arg(item));
+        possAnswer[item]->installEventFilter(this);
+        rows->addWidget(new QLabel(QString::number(item)), item, 0);
+        rows->addWidget(possAnswer[item], item, 1);
+    }
+    Scroller1->setWidget(list);
+    Scroller1->setWidgetResizable(true);
+    Scroller1->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    Scroller1->setFocusPolicy(Qt::NoFocus); // it follows the focus of its boxes
+    listLabel->setBuddy(possAnswer[1]);
+
+    auto* holderLayout = new QVBoxLayout(AnswerHolder);
+    holderLayout->setContentsMargins({});
+    holderLayout->addWidget(Scroller1);
+    auto* column = new QVBoxLayout;
+    for (QWidget* part : std::initializer_list<QWidget*>{listLabel, AnswerHolder}) {
+        auto keepingItsPlace = part->sizePolicy();
+        keepingItsPlace.setRetainSizeWhenHidden(true);
+        part->setSizePolicy(keepingItsPlace);
+        column->addWidget(part);
+    }
+    column->setStretch(1, 1);
+    offerList(false);
+    return column;
+}
+
+void FieldForm::connectControls()
+{
+    giveHint(*BtnClear, QStringLiteral("Empty the name"));
+    selectOnFocus(fieldNameBox);
+    onClick(BtnClear, [this] {
+        fieldNameBox->clear();
+        fieldNameBox->setFocus();
+    });
+    onToggle(UseList, [this](bool ticked) { offerList(ticked); });
+    for (auto* button : {answers->ok, answers->cancel}) {
+        const QString answer = button == answers->ok ? QStringLiteral("OK") : QStringLiteral("Cancel");
+        onClick(button, [this, answer] {
+            session.dialogResult = answer;
+            hide();
+        });
+    }
+}
+
+void FieldForm::offerList(bool offered)
+{
+    for (int item = 1; item <= 12; ++item)
+        possAnswer[item]->clear();
+    AnswerHolder->setVisible(offered);
+    listLabel->setVisible(offered);
+    if (offered)
+        possAnswer[1]->setFocus();
+}
+
+void FieldForm::fill(const FieldDefinition& definition)
+{
+    fieldNameBox->setText(definition.name);
+    for (const TypeLine& line : typeLines) {
+        if (line.type == definition.type)
+            fieldType->setCurrentText(line.text);
+    }
+    UseList->setChecked(definition.useList);
+    for (int item = 1; item <= 12; ++item)
+        possAnswer[item]->setText(definition.answers[item]);
+    fieldNameBox->setFocus();
+}
+
+FieldDefinition FieldForm::definition() const
+{
+    FieldDefinition definition{fieldNameBox->text(), chosenType(), UseList->isChecked(), {}};
+    for (int item = 1; item <= 12; ++item)
+        definition.answers[item] = possAnswer[item]->text();
+    return definition;
+}
+
+QString FieldForm::chosenType() const
+{
+    for (const TypeLine& line : typeLines) {
+        if (line.text == fieldType->currentText())
+            return line.type;
+    }
+    return {};
+}
+
+bool FieldForm::eventFilter(QObject* watched, QEvent* event)
+{
+    if (!refuses(*event))
+        return AnswerDialog::eventFilter(watched, event);
+    if (event->type() == QEvent::InputMethod) {
+        QInputMethodEvent nothing; // takes away what was being composed
+        QCoreApplication::sendEvent(watched, &nothing);
+    }
+    return true;
+}
+
+bool FieldForm::refuses(QEvent& event) const
+{
+    QString typed;
+    if (event.type() == QEvent::InputMethod)
+        typed = static_cast<QInputMethodEvent&>(event).commitString();
+    if (event.type() == QEvent::KeyPress) {
+        const auto& press = static_cast<QKeyEvent&>(event);
+        constexpr int free[] = {Qt::Key_Tab,   Qt::Key_Backtab, Qt::Key_Return,
+                                Qt::Key_Enter, Qt::Key_Escape,  Qt::Key_Delete};
+        if (std::find(std::begin(free), std::end(free), press.key()) == std::end(free))
+            typed = press.text();
+    }
+    return std::any_of(typed.begin(), typed.end(),
+                       [this](QChar key) { return !answerTakesKey(chosenType(), key); });
+}
+
+bool editField(int f)
+{
+    session.dialogResult.clear();
+    form<FieldForm>().fill(fieldDefinition(f));
+    showModal(form<FieldForm>());
+    if (session.dialogResult != QLatin1String("OK"))
+        return false;
+    defineField(f, form<FieldForm>().definition());
+    return true;
+}

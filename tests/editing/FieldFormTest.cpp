@@ -1,0 +1,129 @@
+#include "editing/FieldForm.h"
+
+#include "platform/forms.h"
+#include "support/freshStart.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QInputMethodEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QTest>
+
+class FieldDetails : public Fresh {
+protected:
+    FieldDetails()
+    {
+        session.fieldName[2] = QStringLiteral("Legs");
+        session.fieldType[2] = QStringLiteral("123");
+    }
+
+    /// Opens the dialog for field 2 with a pupil who does this and ends with that key.
+    static bool edit(const std::function<void(FieldForm&)>& step, Qt::Key end = Qt::Key_Return)
+    {
+        recorded.dialogSteps.push_back([=](QDialog& dialog) {
+            step(dynamic_cast<FieldForm&>(dialog));
+            QTest::keyClick(&dialog, end);
+            EXPECT_FALSE(dialog.isVisible());
+        });
+        return editField(2);
+    }
+};
+
+TEST_F(FieldDetails, ShowTheFieldAndDefineItByOkAlone)
+{
+    const auto change = [](FieldForm& dialog) {
+        EXPECT_EQ(dialog.fieldType->currentText(), QStringLiteral("123 - Numbers only"));
+        EXPECT_FALSE(dialog.AnswerHolder->isVisible());
+        EXPECT_FALSE(dialog.listLabel->isVisible());
+        QTest::keyClicks(dialog.focusWidget(), QStringLiteral("Pet")); // over the selected name
+        QTest::keyClick(&dialog, Qt::Key_T, Qt::AltModifier);
+        QTest::keyClick(dialog.focusWidget(), Qt::Key_Up);
+        QTest::keyClick(&dialog, Qt::Key_L, Qt::AltModifier);
+        EXPECT_TRUE(QTest::qWaitFor([&] { return dialog.AnswerHolder->isVisible(); }));
+        EXPECT_EQ(dialog.focusWidget(), dialog.possAnswer[1]);
+        QTest::keyClicks(dialog.possAnswer[1], QStringLiteral("cat"));
+        QTest::keyClicks(dialog.possAnswer[12], QStringLiteral("1.5, or so"));
+    };
+    EXPECT_FALSE(edit(change, Qt::Key_Escape));
+    EXPECT_EQ(session.dialogResult, QStringLiteral("Cancel"));
+    EXPECT_EQ(session.fieldName[2], QStringLiteral("Legs"));
+    EXPECT_FALSE(session.fieldUseList[2]);
+
+    EXPECT_TRUE(edit(change));
+    EXPECT_EQ(session.dialogResult, QStringLiteral("OK"));
+    EXPECT_EQ(session.fieldName[2], QStringLiteral("Pet"));
+    EXPECT_EQ(session.fieldType[2], QStringLiteral("Abc"));
+    EXPECT_TRUE(session.fieldUseList[2]);
+    EXPECT_EQ(session.fieldListItem[2][1], QStringLiteral("cat"));
+    EXPECT_EQ(session.fieldListItem[2][12], QStringLiteral("1.5, or so"));
+
+    const auto untick = [](FieldForm& dialog) {
+        EXPECT_EQ(dialog.possAnswer[12]->text(), QStringLiteral("1.5, or so"));
+        dialog.UseList->click();
+        EXPECT_FALSE(dialog.AnswerHolder->isVisible());
+        dialog.UseList->click();
+        EXPECT_TRUE(dialog.possAnswer[12]->text().isEmpty()) << "unticking loses the list on the form";
+    };
+    edit(untick, Qt::Key_Escape);
+    EXPECT_EQ(session.fieldListItem[2][1], QStringLiteral("cat"));
+}
+
+TEST_F(FieldDetails, ANumberListTakesDigitsSlashAndTheDeleteKey)
+{
+    edit([](FieldForm& dialog) {
+        dialog.UseList->click();
+        QLineEdit* box = dialog.possAnswer[1];
+        QTest::keyClicks(box, QStringLiteral("-1.5 a1/2e,"));
+        EXPECT_EQ(box->text(), QStringLiteral("151/2"));
+        QTest::keyClick(box, Qt::Key_Backspace);
+        EXPECT_EQ(box->text(), QStringLiteral("151/2"));
+        QTest::keyClick(box, Qt::Key_Home);
+        QTest::keyClick(box, Qt::Key_Delete);
+        EXPECT_EQ(box->text(), QStringLiteral("51/2"));
+        for (const auto& [composed, result] : {std::pair("é", "51/2"), std::pair("7", "751/2")}) {
+            QInputMethodEvent event;
+            event.setCommitString(QString::fromUtf8(composed));
+            QCoreApplication::sendEvent(box, &event);
+            EXPECT_EQ(box->text(), QString::fromUtf8(result));
+        }
+        dialog.fieldType->setCurrentIndex(0);
+        QTest::keyClick(box, Qt::Key_Backspace);
+        QTest::keyClicks(box, QStringLiteral("x.-"));
+        EXPECT_EQ(box->text(), QStringLiteral("x.-51/2"));
+    });
+}
+
+TEST_F(FieldDetails, TheNameIsSelectedWheneverItGetsTheFocus)
+{
+    edit([](FieldForm& dialog) {
+        QLineEdit* name = dialog.fieldNameBox;
+        EXPECT_EQ(name->selectedText(), QStringLiteral("Legs")) << "when the dialog opens";
+        dialog.fieldType->setFocus();
+        QTest::mouseClick(name, Qt::LeftButton);
+        EXPECT_EQ(name->selectedText(), QStringLiteral("Legs")) << "by the mouse";
+        QTest::mouseClick(name, Qt::LeftButton);
+        EXPECT_TRUE(name->selectedText().isEmpty()) << "a second click puts the caret";
+        dialog.fieldType->setFocus();
+        QTest::keyClick(&dialog, Qt::Key_C, Qt::AltModifier);
+        EXPECT_TRUE(QTest::qWaitFor([&] { return name->text().isEmpty(); }));
+        EXPECT_TRUE(name->hasFocus());
+    });
+    EXPECT_TRUE(session.fieldName[2].isEmpty()) << "an empty name is accepted";
+}
+
+TEST_F(FieldDetails, IsWholeOnASmallScreenAndEveryAnswerIsReachedByKeys)
+{
+    session.fieldUseList[2] = true;
+    edit([](FieldForm& dialog) {
+        EXPECT_LE(dialog.minimumSizeHint().width(), 950);
+        EXPECT_LE(dialog.height(), 560);
+        dialog.possAnswer[1]->setFocus();
+        for (int item = 1; item <= 12; ++item) {
+            EXPECT_EQ(dialog.focusWidget(), dialog.possAnswer[item]);
+            EXPECT_FALSE(dialog.possAnswer[item]->visibleRegion().isEmpty()) << item << " is out of sight";
+            EXPECT_FALSE(dialog.possAnswer[item]->accessibleName().isEmpty());
+            QTest::keyClick(dialog.focusWidget(), Qt::Key_Tab);
+        }
+    });
+}
