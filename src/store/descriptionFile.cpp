@@ -51,6 +51,8 @@ void readField(ItemReader& reader, int f, int listLength)
         return;
     for (int item = 1; item <= listLength; ++item)
         attempt([&] { session.fieldListItem[f][item] = reader.next(); });
+    for (int item = listLength + 1; item <= newListLength; ++item)
+        session.fieldListItem[f][item].clear(); // a shorter list must not inherit another database's answers
 }
 
 void applyStatus()

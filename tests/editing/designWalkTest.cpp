@@ -1,0 +1,297 @@
+// Databases made up at random: what the folder must hold is told by a model that knows nothing of the
+// program.
+#include "editing/DesignForm.h"
+#include "editing/FieldForm.h"
+#include "editing/designCommand.h"
+#include "store/cardFiles.h"
+#include "store/descriptionFile.h"
+#include "store/opening.h"
+#include "support/files.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QCoreApplication>
+#include <QDir>
+#include <QLabel>
+#include <QLineEdit>
+#include <QRadioButton>
+
+#include <map>
+#include <random>
+
+namespace {
+
+std::mt19937 dice;
+
+int roll(int sides) { return std::uniform_int_distribution(0, sides - 1)(dice); }
+
+/// Up to ten letters, a quote never among them.
+QString anyText(const QString& letters)
+{
+    QString text;
+    for (int length = roll(11); length > 0; --length)
+        text += letters[roll(int(letters.size()))];
+    return text;
+}
+
+const QString codePageLetters = QStringLiteral("abcXYZ 019,.;:-'()\u00e4\u00f6\u00df\u00e9\t");
+const QString allLetters = codePageLetters + QStringLiteral("\u0141\u0105\u20ac\u4e2d\ufeff");
+
+struct Field {
+    QString name;
+    QString type;
+    bool useList = false;
+    FieldAnswers answers;
+
+    bool operator==(const Field&) const = default;
+};
+
+Field anyField(const QString& letters)
+{
+    Field field{anyText(letters), roll(2) ? QStringLiteral("Abc") : QStringLiteral("123"), roll(2) == 0, {}};
+    for (int item = 1; field.useList && item <= 12; ++item)
+        field.answers[item] = anyText(letters);
+    return field;
+}
+
+QByteArray quoted(const QString& text) { return '"' + text.toLatin1() + "\"\r\n"; }
+
+/// The database as its folder must hold it. Texts are such that Latin-1 and the code page agree on them.
+struct Model {
+    int numFields = 3;
+    int size = 0;
+    bool readOnlyTick = false;
+    QByteArray status = "RW";
+    Table<Field, 12> fields;
+    std::map<QString, QStringList> records; // values of each card when it was last written
+
+    void forgetUnusedFields(int used)
+    {
+        for (int f = used + 1; f <= 12; ++f)
+            fields[f] = {QStringLiteral("fieldname%1").arg(f), QStringLiteral("Abc"), false, {}};
+    }
+
+    QByteArray description() const
+    {
+        QByteArray text =
+            " " + QByteArray::number(numFields) + " \r\n " + QByteArray::number(size) + " \r\n\"none\"\r\n";
+        for (int f = 1; f <= numFields; ++f) {
+            text += quoted(fields[f].name) + quoted(fields[f].type) + (fields[f].useList ? "True" : "False") +
+                    "\r\n";
+            for (int item = 1; fields[f].useList && item <= 12; ++item)
+                text += quoted(fields[f].answers[item]);
+        }
+        return text + status + "\r\nVER=\"1.1.0\"\r\n";
+    }
+};
+
+} // namespace
+
+class RandomDatabases : public Fresh {
+protected:
+    RandomDatabases()
+    {
+        session.dbPath = inTestFolder(QStringLiteral("db"));
+        QDir().mkdir(session.dbPath);
+        dice.seed(20090317);
+    }
+
+    static QString description() { return session.dbPath + QStringLiteral("/db-info.tdb"); }
+
+    void designSession(Model& model);
+    void designStep(DesignForm& dialog, Model& model);
+    void editSomeField(DesignForm& dialog, Model& model);
+    void writeSomeCard(Model& model);
+    void expectFolder(const Model& model);
+    int steps = 0;
+};
+
+TEST_F(RandomDatabases, ComeBackAsTheyWereWritten)
+{
+    for (int round = 0; round < 300; ++round) {
+        const QString& letters = round % 2 ? allLetters : codePageLetters;
+        Table<Field, 12> written;
+        const int numFields = 1 + roll(12);
+        const int size = roll(3);
+        const QString status = roll(2) ? QStringLiteral("RW") : QStringLiteral("RO");
+        session.numFields = numFields;
+        session.cardSize = qint16(size);
+        session.databaseStatus = status;
+        for (int f = 1; f <= numFields; ++f) {
+            written[f] = anyField(letters);
+            session.fieldName[f] = written[f].name;
+            session.fieldType[f] = written[f].type;
+            session.fieldUseList[f] = written[f].useList;
+            session.fieldListItem[f] = written[f].answers;
+        }
+        writeDbInfo();
+        const QByteArray bytes = bytesOf(description());
+
+        const QString folder = session.dbPath;
+        session = {};
+        session.dbPath = folder;
+        readDbInfo();
+        EXPECT_EQ(session.numFields, numFields) << round;
+        EXPECT_EQ(session.cardSize, size) << round;
+        EXPECT_EQ(session.databaseStatus, status) << round;
+        for (int f = 1; f <= numFields; ++f) {
+            const Field read{session.fieldName[f], session.fieldType[f], session.fieldUseList[f],
+                             session.fieldListItem[f]};
+            ASSERT_TRUE(read == written[f]) << "field " << f << " of round " << round;
+        }
+        writeDbInfo();
+        EXPECT_EQ(bytesOf(description()), bytes) << round;
+    }
+    EXPECT_TRUE(recorded.messages.isEmpty());
+}
+
+TEST_F(RandomDatabases, OfTheOldVersionAreUpgradedByTheFirstDesign)
+{
+    for (int round = 0; round < 30; ++round) {
+        Model model;
+        model.numFields = 1 + roll(12);
+        QByteArray old = " " + QByteArray::number(model.numFields) + " \r\n 0 \r\n\"none\"\r\n";
+        for (int f = 1; f <= model.numFields; ++f) {
+            model.fields[f] = anyField(codePageLetters);
+            old += quoted(model.fields[f].name) + quoted(model.fields[f].type) +
+                   (model.fields[f].useList ? "True\r\n" : "False\r\n");
+            for (int item = 1; model.fields[f].useList && item <= 12; ++item) {
+                if (item <= 6)
+                    old += quoted(model.fields[f].answers[item]);
+                else
+                    model.fields[f].answers[item].clear();
+                session.fieldListItem[f][item] = QStringLiteral("of the database before");
+            }
+        }
+        putFile(description(), old + "RW\r\n");
+        openChosenFolder(session.dbPath);
+        EXPECT_EQ(session.dbVersion, QStringLiteral("1.0.0"));
+        recorded.dialogSteps.push_back([](QDialog& dialog) { dialog.reject(); });
+        designCommand();
+        EXPECT_EQ(bytesOf(description()), model.description()) << round;
+        EXPECT_EQ(session.dbVersion, QStringLiteral("1.1.0"));
+    }
+}
+
+TEST_F(RandomDatabases, AWalkOfDesignsAndEditsLeavesWhatTheModelTells)
+{
+    Model model;
+    model.forgetUnusedFields(0);
+    while (steps < 500 && !HasFailure()) {
+        switch (roll(4)) {
+        case 0:
+            writeSomeCard(model);
+            break;
+        case 1: // closed and opened again
+            if (!QFile::exists(description()))
+                continue;
+            openChosenFolder(session.dbPath);
+            model.forgetUnusedFields(model.numFields);
+            model.readOnlyTick = model.status == "RO";
+            ++steps;
+            break;
+        default:
+            designSession(model);
+        }
+        expectFolder(model);
+    }
+}
+
+/// A visit to the design dialog with up to five changes, ended by OK or Cancel.
+void RandomDatabases::designSession(Model& model)
+{
+    const bool ok = roll(2) == 0;
+    recorded.dialogSteps.push_back([&](QDialog& dialog) {
+        for (int changes = roll(6); changes > 0; --changes)
+            designStep(dynamic_cast<DesignForm&>(dialog), model);
+        dialog.findChild<QPushButton*>(ok ? QStringLiteral("ok_but") : QStringLiteral("cancel_but"))->click();
+        QCoreApplication::processEvents();
+    });
+    designCommand();
+    if (ok)
+        model.status = model.readOnlyTick ? "RO" : "RW";
+    ++steps;
+}
+
+void RandomDatabases::designStep(DesignForm& dialog, Model& model)
+{
+    ++steps;
+    const int kind = roll(5);
+    if (kind == 0) {
+        dialog.spinUp->click();
+        model.numFields = std::min(model.numFields + 1, 12);
+    } else if (kind == 1) {
+        dialog.spinDown->click();
+        model.numFields = std::max(model.numFields - 1, 1);
+    } else if (kind == 2) {
+        model.size = roll(3);
+        dialog.cardSizeRadio[model.size]->click();
+    } else if (kind == 3) {
+        dialog.ChkRD->click();
+        model.readOnlyTick = !model.readOnlyTick;
+    } else {
+        editSomeField(dialog, model);
+    }
+    EXPECT_EQ(dialog.numFieldsBox->text().toInt(), model.numFields);
+}
+
+void RandomDatabases::editSomeField(DesignForm& dialog, Model& model)
+{
+    const int f = 1 + roll(model.numFields);
+    const Field wanted = anyField(codePageLetters);
+    const bool ok = roll(3) > 0;
+    recorded.dialogSteps.push_front([&](QDialog& opened) {
+        auto& field = dynamic_cast<FieldForm&>(opened);
+        EXPECT_EQ(field.fieldNameBox->text(), model.fields[f].name);
+        EXPECT_EQ(field.UseList->isChecked(), model.fields[f].useList);
+        field.fieldNameBox->setText(wanted.name);
+        field.fieldType->setCurrentIndex(wanted.type == QLatin1String("Abc") ? 0 : 1);
+        field.UseList->setChecked(wanted.useList);
+        for (int item = 1; item <= 12; ++item)
+            field.possAnswer[item]->setText(wanted.answers[item]);
+        field.findChild<QPushButton*>(ok ? QStringLiteral("ok_but") : QStringLiteral("cancel_but"))->click();
+    });
+    dialog.EditFieldBut[f]->click();
+    QCoreApplication::processEvents();
+    if (ok)
+        model.fields[f] = wanted;
+}
+
+/// A new card, or another one written anew, as when the editor is closed.
+void RandomDatabases::writeSomeCard(Model& model)
+{
+    ++steps;
+    int card = 1 + roll(session.numCards + 1);
+    if (card > session.numCards && session.numCards < 12) {
+        session.numCards = card;
+        clearCardValues(card);
+        session.cardId[card] = QStringLiteral("CARD") + QString::number(1000 + card);
+    }
+    card = std::min(card, session.numCards);
+    QStringList values;
+    for (int f = 1; f <= session.numFields; ++f) {
+        values.append(anyText(codePageLetters));
+        session.DataBox[f] = values.last();
+    }
+    const QString id = session.cardId[card];
+    saveCardValues(card);
+    model.records[id] = values;
+    EXPECT_EQ(values.size(), model.numFields);
+}
+
+void RandomDatabases::expectFolder(const Model& model)
+{
+    if (QFile::exists(description())) {
+        EXPECT_EQ(bytesOf(description()), model.description()) << "after step " << steps;
+    }
+    const auto found = QDir(session.dbPath).entryList({QStringLiteral("*.tcd")}, QDir::Files);
+    EXPECT_EQ(size_t(found.size()), model.records.size());
+    for (const auto& [id, values] : model.records) {
+        const QByteArray record = bytesOf(session.dbPath + QLatin1Char('/') + id + QStringLiteral(".tcd"));
+        QByteArray expected;
+        for (const QString& value : values)
+            expected += quoted(value);
+        EXPECT_EQ(record.mid(record.indexOf('\n') + 1), expected)
+            << id.toStdString() << " after step " << steps;
+    }
+}
