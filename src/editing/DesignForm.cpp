@@ -114,9 +114,10 @@ void DesignForm::addFieldRow(QGridLayout& grid, int f)
     grid.setColumnStretch(column + 1, 1);
     grid.setColumnMinimumWidth(column + 1, nameWidth);
     for (QWidget* part : std::initializer_list<QWidget*>{number[f], fieldName[f], DataBox[f], pullDownBut[f],
-                                                         EditFieldBut[f]})
+                                                         EditFieldBut[f]}) {
+        keepPlaceWhenHidden(*part); // so that the dialog doesn't grow with the number of fields
         grid.addWidget(part, row, column++);
-    grid.setRowMinimumHeight(row, EditFieldBut[f]->sizeHint().height()); // also while the row is hidden
+    }
     grid.setRowStretch(row, 1);
 }
 

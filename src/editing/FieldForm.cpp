@@ -111,9 +111,7 @@ QLayout* FieldForm::answerList()
     holderLayout->addWidget(Scroller1);
     auto* column = new QVBoxLayout;
     for (QWidget* part : std::initializer_list<QWidget*>{listLabel, AnswerHolder}) {
-        auto keepingItsPlace = part->sizePolicy();
-        keepingItsPlace.setRetainSizeWhenHidden(true);
-        part->setSizePolicy(keepingItsPlace);
+        keepPlaceWhenHidden(*part);
         column->addWidget(part);
     }
     column->setStretch(1, 1);

@@ -122,9 +122,7 @@ void NewForm::fillLocationPage()
                        "2000/XP, it will be created in My Documents folder based on your settings and "
                        "logging names."));
     Tip2->setFixedHeight(tipHeight);
-    auto place = Tip2->sizePolicy();
-    place.setRetainSizeWhenHidden(true);
-    Tip2->setSizePolicy(place);
+    keepPlaceWhenHidden(*Tip2);
     LblCustDir->setProperty("role", QStringLiteral("explanation"));
     LblCustDir->setFixedHeight(directoryHeight);
     Option1->setChecked(true);

@@ -22,6 +22,13 @@ QLabel* pictureLabel(const QString& name, QSize size)
     return label;
 }
 
+void keepPlaceWhenHidden(QWidget& widget)
+{
+    QSizePolicy policy = widget.sizePolicy();
+    policy.setRetainSizeWhenHidden(true);
+    widget.setSizePolicy(policy);
+}
+
 void onClick(QAbstractButton* button, const std::function<void()>& handler)
 {
     QObject::connect(button, &QAbstractButton::clicked, button, [handler] { guarded(handler); });

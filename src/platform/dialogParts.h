@@ -20,6 +20,9 @@ QLabel* words(const QString& text, const char* role = "");
 /// A label that shows a picture and that assistive technology passes over.
 QLabel* pictureLabel(const QString& name, QSize size);
 
+/// Nothing moves when the widget is hidden or shown.
+void keepPlaceWhenHidden(QWidget& widget);
+
 /// Runs the handler at every click; an error ends it in the general error box.
 void onClick(QAbstractButton* button, const std::function<void()>& handler);
 

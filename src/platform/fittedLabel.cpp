@@ -42,8 +42,8 @@ void FittedLabel::paintEvent(QPaintEvent*)
     place.setTop(place.top() + (place.height() - int(lines.size()) * lineHeight()) / 2);
     place.setHeight(lineHeight());
     for (const QString& line : lines) {
-        style()->drawItemText(&painter, place, int(Qt::AlignLeft | Qt::AlignVCenter), palette(), isEnabled(),
-                              line, foregroundRole());
+        style()->drawItemText(&painter, place, int(Qt::AlignLeft | Qt::AlignVCenter) | Qt::TextDontClip,
+                              palette(), isEnabled(), line, foregroundRole());
         place.translate(0, lineHeight());
     }
 }

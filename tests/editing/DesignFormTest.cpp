@@ -238,6 +238,10 @@ TEST_F(Design, IsWholeOnASmallScreenAndReachedByKeysWithEveryField)
     design([](DesignForm& dialog) {
         EXPECT_LE(dialog.minimumSizeHint().width(), 950);
         EXPECT_LE(dialog.minimumSizeHint().height(), 560);
+        const QSize least = dialog.minimumSizeHint();
+        press(dialog.spinDown);
+        EXPECT_EQ(dialog.minimumSizeHint(), least) << "it must not grow under a child's hand";
+        press(dialog.spinUp);
         EXPECT_TRUE(dialog.fieldName[1]->textInView().contains(QChar(0x2026)));
         QSet<QWidget*> reached;
         for (QWidget* at = dialog.focusWidget(); !reached.contains(at); at = dialog.focusWidget()) {
