@@ -33,7 +33,7 @@ FOLDERS = {
 # The part of the path below src/, without its ending, in small letters -> floor.
 EXCEPTIONS = {
     r"board/refresh|store/(load\w*|open\w*|close\w*|tilecards|choose\w*|folderwalk|fileform|new\w*)": "loading and opening",
-    r"core/(dispatch|commands|menubar|form1|frmnewdoc|frmstlogo|exitform|mainsettings|startup|shutdown)": "assembly",
+    r"core/(assembly|dispatch|commands|menubar|form1|frmnewdoc|frmstlogo|exitform|mainsettings|startup|shutdown)": "assembly",
 }
 
 INCLUDE = re.compile(r'^\s*#\s*include\s+"([^"]+)"')
