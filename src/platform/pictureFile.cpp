@@ -80,22 +80,35 @@ void checkBitmap(const QByteArray& file)
         throw RuntimeError(invalidPicture);
 }
 
-/// A picture of 32 bits whose programs left the fourth byte empty looks invisible; it was meant to be seen.
+/// Gives the colours that a palette lacks, for a damaged file names them all the same, and takes the palette
+/// away: what works on pictures then finds colours in every pixel.
+void resolvePalette(QImage& picture)
+{
+    const bool clear = picture.hasAlphaChannel();
+    const int told = picture.colorCount();
+    if (told > 0) {
+        picture.setColorCount(1 << picture.depth());
+        for (int colour = told; colour < picture.colorCount(); ++colour)
+            picture.setColor(colour, qRgb(0, 0, 0));
+    }
+    picture.convertTo(clear ? QImage::Format_ARGB32 : QImage::Format_RGB32);
+}
+
+/// A picture of 32 bits whose maker left the fourth byte empty looks invisible; it was meant to be seen.
+/// Takes pictures of resolvePalette().
 void showWhenAllTransparent(QImage& picture)
 {
     if (!picture.hasAlphaChannel())
         return;
-    QImage inspected = picture.convertToFormat(QImage::Format_ARGB32);
-    for (int y = 0; y < inspected.height(); ++y) {
-        const auto* line = reinterpret_cast<const QRgb*>(inspected.constScanLine(y));
-        if (std::any_of(line, line + inspected.width(), [](QRgb pixel) { return qAlpha(pixel) != 0; }))
+    const auto pixels = [&picture](int y) { return reinterpret_cast<QRgb*>(picture.scanLine(y)); };
+    for (int y = 0; y < picture.height(); ++y) {
+        if (std::any_of(pixels(y), pixels(y) + picture.width(),
+                        [](QRgb pixel) { return qAlpha(pixel) != 0; }))
             return;
     }
-    for (int y = 0; y < inspected.height(); ++y) {
-        auto* line = reinterpret_cast<QRgb*>(inspected.scanLine(y));
-        std::for_each(line, line + inspected.width(), [](QRgb& pixel) { pixel |= 0xFF000000; });
-    }
-    picture = inspected.convertToFormat(QImage::Format_RGB32);
+    for (int y = 0; y < picture.height(); ++y)
+        std::for_each(pixels(y), pixels(y) + picture.width(), [](QRgb& pixel) { pixel |= 0xFF000000; });
+    picture.reinterpretAsFormat(QImage::Format_RGB32);
 }
 
 } // namespace
@@ -121,6 +134,7 @@ QImage decodePicture(const QByteArray& bytes)
         picture.fill(Qt::white);
     if (!reader.read(&picture) || picture.isNull())
         throw RuntimeError(invalidPicture);
+    resolvePalette(picture);
     if (bitmap)
         showWhenAllTransparent(picture);
     picture.setDevicePixelRatio(1);

@@ -5,8 +5,8 @@
 #include <QImage>
 #include <QString>
 
-/// The picture in a file of any format that Qt reads, told by its content. Raises 481 when it isn't a whole
-/// picture, otherwise as readWholeFile().
+/// The picture in a file of any format that Qt reads, told by its content, in 32 bits. Raises 481 when it
+/// isn't a whole picture, otherwise as readWholeFile().
 QImage readPicture(const QString& path);
 
 /// The picture in the bytes of a file. Raises 481 as readPicture() does.

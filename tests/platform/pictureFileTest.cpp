@@ -130,6 +130,19 @@ TEST_F(PictureFile, AnEmptyAlphaIsTakenAsOpaque)
     EXPECT_EQ(decodePicture(bytes).pixelColor(0, 0).alpha(), 0) << "one that uses its alpha keeps it";
 }
 
+TEST_F(PictureFile, AColourThatThePaletteLacksIsBlack)
+{
+    Bitmap bitmap{.bits = 8, .palette = QByteArray("\xFF\xFF\xFF\0\x00\x00\xFF\0", 8)};
+    bitmap.pixels = QByteArray("\x01\x1A\0\0\x00\xFF\0\0", 8);
+    QByteArray bytes = bitmap.bytes();
+    bytes[46] = 2; // colours in the palette
+    const QImage picture = decodePicture(bytes);
+    EXPECT_EQ(picture.pixelColor(0, 1), QColor(Qt::red));
+    EXPECT_EQ(picture.pixelColor(1, 1), QColor(Qt::black));
+    EXPECT_EQ(picture.pixelColor(0, 0), QColor(Qt::white));
+    EXPECT_EQ(picture.pixelColor(1, 0), QColor(Qt::black));
+}
+
 TEST_F(PictureFile, WhatADamagedFileDoesNotTellIsTheSameEveryTime)
 {
     // Run lengths that end at once leave every pixel untold; other formats are cut in the middle.

@@ -2,9 +2,14 @@
 
 #include "support/files.h"
 
+#include <QDateTime>
 #include <QDir>
 
+#include <csignal>
+#include <sys/resource.h>
 #include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
 using WholeFile = Fresh;
 
@@ -26,7 +31,7 @@ TEST_F(WholeFile, RaisesWhatAFileCannotGive)
         {"folder", pathAccessError}, {"pipe", pathAccessError},
     };
     for (const auto& [name, error] : cases)
-        EXPECT_EQ(errorOf([&] { readWholeFile(place(name)); }), error) << name;
+        EXPECT_EQ(errorOf([path = place(name)] { readWholeFile(path); }), error) << name;
     EXPECT_EQ(errorOf([] { readWholeFile(place("plain"), 4); }), outOfMemory);
 }
 
@@ -53,4 +58,71 @@ TEST_F(WholeFile, ReplacesFilesOnly)
     EXPECT_EQ(errorOf([] { replaceFile(place("folder"), "x"); }), pathAccessError);
     EXPECT_EQ(errorOf([] { replaceFile(place("no folder/x"), "x"); }), pathNotFound);
     EXPECT_EQ(errorOf([] { replaceFile(place(QByteArray(300, 'n').constData()), "x"); }), pathNotFound);
+}
+
+namespace {
+
+/// How names of unfinished writes call this machine: a process that may not let any file grow ends in one.
+QString thisMachine()
+{
+    const pid_t writer = fork();
+    if (writer == 0) {
+        std::signal(SIGXFSZ, SIG_DFL);
+        const rlimit none{0, 0};
+        setrlimit(RLIMIT_FSIZE, &none);
+        replaceFile(place("killed"), "x");
+        _exit(0);
+    }
+    waitpid(writer, nullptr, 0);
+    const QString left =
+        QDir(testFolder()).entryList({QStringLiteral(".tallymoor~*")}, QDir::Hidden | QDir::Files).value(0);
+    QFile::remove(testFolder() + left);
+    return left.section(QLatin1Char('~'), 1, 1);
+}
+
+QString leftover(const QString& machine, pid_t process, int count = 1)
+{
+    return QStringLiteral(".tallymoor~%1~%2~%3").arg(machine).arg(process).arg(count);
+}
+
+void age(const QString& path, int seconds)
+{
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::ReadWrite));
+    ASSERT_TRUE(
+        file.setFileTime(QDateTime::currentDateTime().addSecs(-seconds), QFileDevice::FileModificationTime));
+}
+
+} // namespace
+
+TEST_F(WholeFile, SweepingTakesWhatIsDeadAndLeavesWhatMayBeAlive)
+{
+    const pid_t dead = fork();
+    if (dead == 0)
+        _exit(0);
+    waitpid(dead, nullptr, 0);
+    const QString here = thisMachine();
+    const QString elsewhere = QStringLiteral("0123456789abcdef");
+    const struct {
+        QString name;
+        int seconds; // of age
+        bool stays;
+    } cases[] = {
+        {leftover(here, dead), 0, false},
+        {leftover(here, getpid()), 0, true},
+        {leftover(here, getpid(), 2), 3600, false},
+        {leftover(elsewhere, dead, 1), 0, true},
+        {leftover(elsewhere, dead, 2), 500, true},
+        {leftover(elsewhere, dead, 3), 700, false},
+        {QStringLiteral(".tallymoor~readme"), 3600, true},
+        {QStringLiteral("CARDAAAA.tcd"), 3600, true},
+    };
+    for (const auto& [name, seconds, stays] : cases) {
+        putFile(inTestFolder(name), "half");
+        age(inTestFolder(name), seconds);
+    }
+    sweepLeftovers(testFolder());
+    for (const auto& [name, seconds, stays] : cases)
+        EXPECT_EQ(QFile::exists(inTestFolder(name)), stays) << name.toStdString();
+    EXPECT_EQ(QDir(testFolder()).entryList(QDir::Files | QDir::Hidden).size(), 5);
 }

@@ -1,0 +1,130 @@
+// Files and folders that may not be written: the old file stays, or the new one is there, and the pupil is
+// told.
+#include "faults/children.h"
+#include "faults/smallDisk.h"
+#include "faults/writers.h"
+#include "support/files.h"
+
+#include <QDir>
+
+#include <sys/stat.h>
+
+namespace {
+
+void setMode(const QString& path, mode_t mode)
+{
+    ASSERT_EQ(chmod(QFile::encodeName(path).constData(), mode), 0) << path.toStdString();
+}
+
+/// What a routine that tells its failures says; settings are written in silence.
+QStringList told(const Writer& writer, const char* message)
+{
+    return *writer.fullMessage && *message ? QStringList(QString::fromLatin1(message)) : QStringList();
+}
+
+} // namespace
+
+class ReadOnly : public Fresh {
+protected:
+    ReadOnly()
+    {
+        setMode(testFolder(), 0755);
+        QDir(testFolder()).mkdir(QStringLiteral("folder"));
+        useFolder(folder);
+    }
+    ~ReadOnly() override { setMode(folder, 0755); }
+
+    QString pathOf(const Writer& writer) const
+    {
+        return folder + QLatin1Char('/') + QLatin1String(writer.file);
+    }
+
+    const QString folder = inTestFolder(QStringLiteral("folder"));
+};
+
+TEST_F(ReadOnly, RightsDecideBetweenTheOldFileAndTheNew)
+{
+    const struct {
+        const char* name;
+        mode_t folder;
+        mode_t file;
+        const char* message;
+    } cases[] = {
+        {"folder and file", 0555, 0444, "Error|Path/File access error"},
+        {"file", 0777, 0444, "Error|Path/File access error"},
+        {"folder", 0555, 0666, ""},
+        {"nothing", 0777, 0666, ""},
+        {"renaming over others' files", 01777, 0666, ""},
+        {"looking into the folder", 0444, 0666, "Error|Path/File access error"},
+    };
+    for (const Writer& writer : writers) {
+        const QByteArray before = contentOf(writer, 0);
+        const QByteArray after = contentOf(writer, 1);
+        for (const auto& [name, folderMode, fileMode, message] : cases) {
+            setMode(folder, 0755);
+            writer.write(0);
+            setMode(pathOf(writer), fileMode);
+            setMode(folder, folderMode);
+            const QStringList said = messagesWithoutRights([&] { EXPECT_TRUE(writer.write(1)); });
+            setMode(folder, 0755);
+            EXPECT_EQ(bytesOf(pathOf(writer)), *message ? before : after)
+                << writer.name << " without " << name;
+            EXPECT_EQ(said, told(writer, message)) << writer.name << " without " << name;
+            EXPECT_TRUE(leftoversIn(folder).isEmpty());
+            setMode(pathOf(writer), 0644);
+        }
+    }
+}
+
+TEST_F(ReadOnly, AFolderThatVanishedIsTold)
+{
+    useFolder(inTestFolder(QStringLiteral("gone")));
+    for (const Writer& writer : writers) {
+        recorded.messages.clear();
+        EXPECT_TRUE(writer.write(1));
+        EXPECT_EQ(recorded.messages, told(writer, "Error|Path not found")) << writer.name;
+    }
+    EXPECT_FALSE(QFile::exists(inTestFolder(QStringLiteral("gone"))));
+}
+
+TEST_F(ReadOnly, AWriteProtectedDiskIsTold)
+{
+    const SmallDisk disk(256 << 10);
+    if (!disk.isThere())
+        GTEST_SKIP() << "only root can mount a small disk";
+    useFolder(disk.path());
+    for (const Writer& writer : writers)
+        writer.write(0);
+    disk.writeProtect();
+    for (const Writer& writer : writers) {
+        recorded.messages.clear();
+        EXPECT_TRUE(writer.write(1));
+        EXPECT_EQ(recorded.messages, told(writer, "Error|Permission denied")) << writer.name;
+        EXPECT_EQ(bytesOf(disk.path() + QLatin1Char('/') + QLatin1String(writer.file)), contentOf(writer, 0));
+    }
+}
+
+TEST_F(ReadOnly, AFileOverwrittenWhereItStandsIsWholeOnAFullDisk)
+{
+    int kept = 0;
+    for (const Writer& writer : writers) {
+        const SmallDisk disk(128 << 10);
+        if (!disk.isThere())
+            GTEST_SKIP() << "only root can mount a small disk";
+        useFolder(disk.path());
+        const QString path = disk.path() + QLatin1Char('/') + QLatin1String(writer.file);
+        writer.write(0);
+        const QByteArray before = bytesOf(path).first(20);
+        putFile(path, before);
+        setMode(path, 0666);
+        setMode(disk.path(), 0555);
+        disk.leaveFree(0);
+        const QStringList said = messagesWithoutRights([&] { EXPECT_TRUE(writer.write(3)); });
+        // A short file still fits into the room that it has.
+        const bool refused = bytesOf(path) == before;
+        EXPECT_TRUE(refused || bytesOf(path).size() < 4096) << writer.name;
+        EXPECT_EQ(said, refused ? told(writer, "Error|Disk full") : QStringList()) << writer.name;
+        kept += refused;
+    }
+    EXPECT_GE(kept, 3) << "records, pictures and descriptions don't fit";
+}

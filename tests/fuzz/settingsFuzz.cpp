@@ -1,0 +1,25 @@
+// Whatever a settings file holds, writing a key makes it readable and leaves the others.
+#include "fuzz/fuzzSupport.h"
+#include "store/settings.h"
+
+extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
+{
+    const QString name = QStringLiteral("tallymoor.ini");
+    openWith(name, inputBytes(data, size));
+    const QString file = fuzzFolder() + QLatin1Char('/') + name;
+    const auto read = [&](const char* section, const char* key) {
+        return readSetting(file, QString::fromLatin1(section), QString::fromLatin1(key),
+                           QStringLiteral("absent"));
+    };
+    const QString sameSection = read("S", "other");
+    const QString otherSection = read("T", "key");
+    mustHold(sameSection.size() <= 199 && otherSection.size() <= 199, "values fit the buffer");
+
+    for (const char* value : {"1", "a much longer value", ""}) {
+        writeSetting(file, QStringLiteral("S"), QStringLiteral("key"), QString::fromLatin1(value));
+        mustHold(read("S", "key") == QLatin1String(value), "what was written is read");
+    }
+    mustHold(read("S", "other") == sameSection && read("T", "key") == otherSection,
+             "other keys keep their values");
+    return 0;
+}
