@@ -12,7 +12,10 @@
 #include <cerrno>
 #include <csignal>
 #include <fcntl.h>
+#include <linux/magic.h>
+#include <optional>
 #include <sys/stat.h>
+#include <sys/vfs.h>
 #include <unistd.h>
 #include <utility>
 
@@ -22,8 +25,10 @@ namespace {
 const QString leftoverPrefix = QStringLiteral(".tallymoor~");
 constexpr int foreignLeftoverSeconds = 600;
 
+// On a share another station's reading stands in the way of a rename for a moment.
 constexpr int renameTries = 10;
-constexpr int renamePauseMs = 20;
+constexpr int missingTries = 5;
+constexpr int pauseMs = 20;
 
 [[noreturn]] void raiseFor(int systemError)
 {
@@ -41,6 +46,7 @@ constexpr int renamePauseMs = 20;
         {EROFS, permissionDenied},
         {EBUSY, permissionDenied},
         {ETXTBSY, permissionDenied},
+        {EEXIST, permissionDenied},
         {EAGAIN, permissionDenied},
         {EACCES, pathAccessError},
         {EPERM, pathAccessError},
@@ -201,16 +207,17 @@ public:
         file.close();
     }
 
-    /// 0 when it took its place. On a share another station's open handle can stand in the way for a moment.
+    /// 0 when it took its place, otherwise the system's refusal.
     int takePlaceOf(const QString& target)
     {
         for (int attempt = 1;; ++attempt) {
             placed = ::rename(systemName(path).constData(), systemName(target).constData()) == 0;
             const int refusal = placed ? 0 : errno;
-            const bool mayPass = refusal == EACCES || refusal == EBUSY || refusal == ETXTBSY;
+            const bool mayPass =
+                refusal == EACCES || refusal == EBUSY || refusal == ETXTBSY || refusal == EEXIST;
             if (!mayPass || attempt == renameTries)
                 return refusal;
-            QThread::msleep(renamePauseMs);
+            QThread::msleep(pauseMs);
         }
     }
 
@@ -262,22 +269,41 @@ time_t clockOf(const QString& folder)
     return probe.error() ? 0 : probe.status().st_mtime;
 }
 
+/// Shares that a program of the desktop shows as a folder remove a file before they rename another over it,
+/// so that for a moment there is none.
+bool mayBeBetweenTwoFiles(const QString& path)
+{
+    struct statfs disk = {};
+    return ::statfs(systemName(folderOf(path)).constData(), &disk) == 0 && disk.f_type == FUSE_SUPER_MAGIC;
+}
+
+/// Opens without waiting, so that a pipe that bears a card's name holds nobody up.
+void openForReading(std::optional<OpenFile>& file, const QString& path)
+{
+    for (int attempt = 1;; ++attempt) {
+        file.emplace(path, O_RDONLY | O_NONBLOCK);
+        if (file->error() != ENOENT || attempt == missingTries || !mayBeBetweenTwoFiles(path))
+            return;
+        QThread::msleep(pauseMs);
+    }
+}
+
 } // namespace
 
 QByteArray readWholeFile(const QString& path, qint64 limit)
 {
-    // Not blocking, so that a pipe that bears a card's name holds nobody up.
-    const OpenFile file(path, O_RDONLY | O_NONBLOCK);
-    if (file.error() == ENOENT && !QFileInfo(folderOf(path)).isDir())
+    std::optional<OpenFile> file;
+    openForReading(file, path);
+    if (file->error() == ENOENT && !QFileInfo(folderOf(path)).isDir())
         raiseFor(ENOTDIR);
-    if (file.error())
-        raiseFor(file.error());
-    const struct stat status = file.status();
+    if (file->error())
+        raiseFor(file->error());
+    const struct stat status = file->status();
     if (!S_ISREG(status.st_mode))
         throw RuntimeError(pathAccessError);
     if (status.st_size > limit)
         throw RuntimeError(outOfMemory);
-    return file.readAll(status.st_size);
+    return file->readAll(status.st_size);
 }
 
 void replaceFile(const QString& path, const QByteArray& bytes)

@@ -10,6 +10,7 @@
 #include "store/cardFiles.h"
 #include "store/descriptionFile.h"
 
+#include <QFile>
 #include <QHash>
 
 #include <algorithm>
@@ -26,10 +27,10 @@ QStringList recordFiles(const QString& folder)
 {
     namespace fs = std::filesystem;
     std::error_code failed;
-    fs::directory_iterator entries(fs::path(folder.toStdU16String()), failed);
+    fs::directory_iterator entries(QFile::encodeName(folder).constData(), failed);
     QStringList names;
     while (!failed && entries != fs::directory_iterator()) {
-        const QString name = QString::fromStdU16String(entries->path().filename().u16string());
+        const QString name = QFile::decodeName(entries->path().filename().c_str());
         std::error_code gone; // a file that has just vanished is none
         if (name.endsWith(recordEnding, Qt::CaseInsensitive) && !name.startsWith(QLatin1Char('.')) &&
             entries->is_regular_file(gone))

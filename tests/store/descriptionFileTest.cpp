@@ -160,11 +160,3 @@ TEST_F(DescriptionFile, TextsOfOtherAlphabetsSurvive)
     EXPECT_EQ(session.fieldName[1], QStringLiteral("Imię i świat"));
     EXPECT_EQ(session.fieldListItem[2][1], QStringLiteral("日本"));
 }
-
-TEST_F(DescriptionFile, AFailedWriteIsToldWithTheErrorsOwnText)
-{
-    session.dbPath = inTestFolder(QStringLiteral("gone"));
-    writeDbInfo();
-    EXPECT_EQ(recorded.messages, QStringList(QStringLiteral("Error|Path not found")));
-    EXPECT_EQ(session.dbVersion, QStringLiteral("1.1.0"));
-}

@@ -15,11 +15,3 @@ TEST_F(Settings, LieBesideTheProgramAndAReadNamesItsOwnDefault)
               QStringLiteral("T"));
     EXPECT_EQ(bytesOf(file), QByteArray("[Keys]\r\nValue=T\r\n"));
 }
-
-TEST_F(Settings, WritingFailsSilently)
-{
-    const QString file = inTestFolder(QStringLiteral("no folder/tallymoor.ini"));
-    EXPECT_TRUE(writeSetting(file, QStringLiteral("Keys"), QStringLiteral("Value"), QStringLiteral("T")));
-    EXPECT_TRUE(recorded.messages.isEmpty());
-    EXPECT_EQ(recorded.beeps, 0);
-}
