@@ -4,6 +4,7 @@
 #include "platform/errors.h"
 #include "platform/picture.h"
 
+#include <QApplication>
 #include <QIcon>
 
 QLabel* words(const QString& text, const char* role)
@@ -36,8 +37,12 @@ void onClick(QAbstractButton* button, const std::function<void()>& handler)
 
 void onClickLater(QAbstractButton* button, const std::function<void()>& handler)
 {
-    QObject::connect(
-        button, &QAbstractButton::clicked, button, [handler] { guarded(handler); }, Qt::QueuedConnection);
+    const auto ifStillMeant = [button, handler] {
+        const QWidget* dialog = QApplication::activeModalWidget();
+        if (button->isVisible() && (!dialog || dialog == button->window()))
+            guarded(handler);
+    };
+    QObject::connect(button, &QAbstractButton::clicked, button, ifStillMeant, Qt::QueuedConnection);
 }
 
 void onToggle(QAbstractButton* button, const std::function<void(bool)>& handler)

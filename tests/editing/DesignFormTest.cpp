@@ -131,6 +131,24 @@ TEST_F(Design, EditingAFieldChangesItsRowOnlyAfterOk)
     EXPECT_EQ(description().count('\n'), 3 + 3 + 15 + 2);
 }
 
+TEST_F(Design, TwoQuickClicksOpenOneDialog)
+{
+    modalLoop = [](QDialog& dialog) {
+        dialog.setModal(true);
+        dialog.show();
+        if (auto* design = qobject_cast<DesignForm*>(&dialog)) {
+            design->EditFieldBut[1]->click();
+            design->EditFieldBut[1]->click();
+        } else {
+            recorded.started.append(dialog.windowTitle());
+        }
+        QCoreApplication::processEvents();
+        dialog.hide();
+    };
+    designCommand();
+    EXPECT_EQ(recorded.started, QStringList(QStringLiteral("Field Details")));
+}
+
 TEST_F(Design, AnotherSizeRedrawsTheCardsOnceTheDialogIsLeft)
 {
     session.cardSize = 1;
