@@ -9,8 +9,10 @@
 #include "platform/forms.h"
 #include "platform/picture.h"
 
+#include <QBoxLayout>
 #include <QButtonGroup>
 #include <QCheckBox>
+#include <QGridLayout>
 #include <QGroupBox>
 #include <QIcon>
 #include <QRadioButton>

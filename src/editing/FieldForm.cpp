@@ -5,10 +5,15 @@
 #include "platform/forms.h"
 #include "platform/selectOnFocus.h"
 
+#include <QBoxLayout>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QCoreApplication>
+#include <QGridLayout>
 #include <QInputMethodEvent>
 #include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
 #include <QScrollArea>
 #include <QStyledItemDelegate>
 

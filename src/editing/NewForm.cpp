@@ -14,6 +14,10 @@
 #include "store/settings.h"
 
 #include <QAction>
+#include <QBoxLayout>
+#include <QFileInfo>
+#include <QLabel>
+#include <QLineEdit>
 #include <QMenu>
 #include <QRadioButton>
 #include <QStackedWidget>

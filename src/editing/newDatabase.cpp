@@ -8,6 +8,8 @@
 #include "store/paths.h"
 #include "store/settings.h"
 
+#include <QDir>
+
 namespace {
 
 constexpr int firstFields = 3;

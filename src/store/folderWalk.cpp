@@ -3,6 +3,10 @@
 #include "platform/pictureFile.h"
 #include "store/paths.h"
 
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
 #include <filesystem>
 
 namespace {
