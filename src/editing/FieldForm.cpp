@@ -30,6 +30,7 @@ const TypeLine typeLines[] = {
 };
 
 constexpr int halfWidth = 340;
+constexpr int listHeight = 300; // six answers
 
 QLabel* labelFor(QWidget* control, const char* name, const QString& text)
 {
@@ -107,6 +108,7 @@ QLayout* FieldForm::answerList()
     }
     Scroller1->setWidget(list);
     Scroller1->setWidgetResizable(true);
+    Scroller1->setMinimumHeight(listHeight);
     Scroller1->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     Scroller1->setFocusPolicy(Qt::NoFocus); // it follows the focus of its boxes
     listLabel->setBuddy(possAnswer[1]);
