@@ -34,6 +34,7 @@ BoardWidget::BoardWidget(QWidget* parent)
     : QWidget(parent)
 {
     setAccessibleName(QStringLiteral("Board"));
+    setAccessibleDescription(QStringLiteral("The cards of the database"));
     setMouseTracking(true);
     setAttribute(Qt::WA_OpaquePaintEvent);
     hand.whenPointerChanges([this] { showPointer(mapFromGlobal(QCursor::pos())); });
@@ -83,6 +84,7 @@ void BoardWidget::repaintBoard()
     for (int i = 1; i <= lastCard; ++i)
         shownCard[std::size_t(i)] = shownRect(session.box[i]);
     shownFrame = shownRect(session.SelectBox);
+    voice.follow();
 }
 
 void BoardWidget::repaintCard(int card)
@@ -91,6 +93,7 @@ void BoardWidget::repaintCard(int card)
     repaintMoved(shownCard.at(std::size_t(card)), shownRect(session.box[card]));
     if (shownFrame != shownRect(session.SelectBox))
         repaintMoved(shownFrame, shownRect(session.SelectBox));
+    voice.follow(card);
 }
 
 void BoardWidget::repaintMoved(QRect& before, const QRect& now)

@@ -5,6 +5,7 @@
 #pragma once
 
 #include "board/boardPainter.h"
+#include "board/boardVoice.h"
 #include "board/hand.h"
 #include "core/session.h"
 #include "platform/picture.h"
@@ -25,6 +26,8 @@ public:
 
     /// Answers the screen's calls for the board from now on: redrawing it and measuring captions.
     void connectScreen();
+
+    BoardVoice voice{*this};
 
 protected:
     bool event(QEvent* event) override;

@@ -50,12 +50,21 @@ void closeMenuAndHideFrame()
     screen.redrawBoard();
 }
 
-void closeBin()
+/// The card lies where it is to stay.
+void letGoOfCard(int card)
 {
-    session.BigBin.lidPressed = false;
-    session.BigBin.visible = false;
-    screen.hideHints();
-    screen.redrawBoard();
+    session.box[card].cursor = CardCursor::handOpen;
+    saveCardPosition(card);
+    screen.cardDropped(card); // may ask, delete the card and number the others anew
+    markCard(session.selectedCard);
+}
+
+void raise(int card)
+{
+    if (session.cardStack.fromBelow().back() == card)
+        return;
+    session.cardStack.bringToFront(card);
+    screen.redrawCard(card);
 }
 
 } // namespace
@@ -68,6 +77,37 @@ int cardAt(QPointF point)
         return i != 0 && card.visible && wholePixels(card).contains(point.toPoint());
     });
     return topmost == order.rend() ? 0 : *topmost;
+}
+
+void selectCard(int card)
+{
+    session.selectedCard = qint16(card);
+    raise(card);
+    markCard(card);
+}
+
+void openInEditor(int card)
+{
+    screen.setRefresh(QStringLiteral("Off"));
+    screen.openCard(card);
+}
+
+void dropOnBin(int card)
+{
+    CardImage& image = session.box[card];
+    const Bin& bin = session.BigBin;
+    image.left = bin.left + (bin.width - image.width) / 2;
+    image.top = bin.top + (bin.height - image.height) / 2;
+    screen.redrawCard(card);
+    letGoOfCard(card);
+}
+
+void closeBin()
+{
+    session.BigBin.lidPressed = false;
+    session.BigBin.visible = false;
+    screen.hideHints();
+    screen.redrawBoard();
 }
 
 Hand::Place Hand::placeAt(QPointF point)
@@ -120,10 +160,7 @@ void Hand::moveOverCard(int card, QPointF point)
 {
     if (sounds.hasSound(card))
         session.box[card].cursor = CardCursor::cardSound;
-    if (session.cardStack.fromBelow().back() != card) {
-        session.cardStack.bringToFront(card);
-        screen.redrawCard(card);
-    }
+    raise(card);
     if (holding) {
         dragTo(session.box[card], point);
         screen.redrawCard(card);
@@ -146,22 +183,15 @@ void Hand::letGo(bool rightButton, bool stillPressed)
     if (!holding)
         return;
     holding = stillPressed;
-    if (held.part == Part::card)
-        letGoOfCard(held.card, rightButton);
-    else if (held.part == Part::lid)
+    if (held.part == Part::card) {
+        letGoOfCard(held.card);
+        if (rightButton)
+            playCardSound(session.selectedCard);
+    } else if (held.part == Part::lid) {
         closeBin();
-    else if (held.part == Part::board)
+    } else if (held.part == Part::board) {
         closeMenuAndHideFrame();
-}
-
-void Hand::letGoOfCard(int card, bool rightButton)
-{
-    session.box[card].cursor = CardCursor::handOpen;
-    saveCardPosition(card);
-    screen.cardDropped(card); // may ask, delete the card and number the others anew
-    markCard(session.selectedCard);
-    if (rightButton)
-        playCardSound(session.selectedCard);
+    }
 }
 
 bool Hand::openCardAt(QPointF point)
@@ -170,8 +200,7 @@ bool Hand::openCardAt(QPointF point)
     if (card == 0)
         return false;
     holding = false; // the editor takes the mouse from here
-    screen.setRefresh(QStringLiteral("Off"));
-    screen.openCard(card);
+    openInEditor(card);
     return true;
 }
 

@@ -11,6 +11,17 @@
 /// The topmost visible card at that point, 0 when there is none.
 int cardAt(QPointF point);
 
+// What a hand does in one go, for those who don't use a mouse.
+
+/// Makes the card the selected one, raised and framed.
+void selectCard(int card);
+/// Turns the refresh off and opens the card in the editor.
+void openInEditor(int card);
+/// Carries the card to the middle of the bin and lets it go there.
+void dropOnBin(int card);
+/// Closes the bin, as its lid does.
+void closeBin();
+
 class Hand {
 public:
     enum class Pointer { arrow, handOpen, handClosed, cardSound, bin };
@@ -41,7 +52,6 @@ private:
     static Place placeAt(QPointF point);
     void moveOverCard(int card, QPointF point);
     void moveOverBin(Part part, QPointF point);
-    void letGoOfCard(int card, bool rightButton);
 
     Place held;
     Place under; // the mouse

@@ -1,0 +1,135 @@
+#include "board/boardVoice.h"
+
+#include "board/boardWidget.h"
+#include "board/places.h"
+#include "core/screen.h"
+#include "support/freshStart.h"
+
+#include <QAccessible>
+#include <QCoreApplication>
+
+using testing::ElementsAre;
+using testing::Pair;
+
+namespace {
+
+class BoardForAssistiveTechnology : public Fresh {
+protected:
+    BoardForAssistiveTechnology()
+    {
+        board.resize(1000, 700);
+        board.connectScreen();
+        for (int card = 1; card <= 3; ++card) {
+            session.box[card] = {card * 100.4, 200.6, 80, 60, {}, QStringLiteral("Card %1").arg(card),
+                                 true,         {}};
+            session.cardId[card] = QStringLiteral("CARDAAA%1").arg(card);
+        }
+        session.numCards = 3;
+        board.show();
+        QCoreApplication::processEvents();
+        screen.redrawBoard();
+        board.voice.tell = [this](int item, QAccessible::Event news) { told.push_back({item, news}); };
+    }
+
+    QAccessibleInterface& list() { return *QAccessible::queryAccessibleInterface(&board); }
+    QStringList names()
+    {
+        QStringList all;
+        for (int i = 0; i < list().childCount(); ++i)
+            all.append(list().child(i)->text(QAccessible::Name));
+        return all;
+    }
+    void act(int child, const char* action)
+    {
+        list().child(child)->actionInterface()->doAction(QLatin1String(action));
+        QCoreApplication::processEvents();
+    }
+    BoardWidget board;
+    std::vector<std::pair<int, QAccessible::Event>> told;
+};
+
+} // namespace
+
+TEST_F(BoardForAssistiveTechnology, IsAListOfItsCardsWithNamesAndPlaces)
+{
+    session.box[2].visible = false;
+    EXPECT_EQ(list().role(), QAccessible::List);
+    EXPECT_EQ(list().text(QAccessible::Name), QStringLiteral("Board"));
+    EXPECT_EQ(names(), QStringList({"Card 1", "Card 3"}));
+    QAccessibleInterface* third = list().child(1);
+    EXPECT_EQ(third->role(), QAccessible::ListItem);
+    EXPECT_EQ(third->rect(), QRect(board.mapToGlobal(QPoint(301, 201)), QSize(80, 60)));
+    EXPECT_EQ(list().childAt(third->rect().center().x(), third->rect().center().y()), third);
+    EXPECT_EQ(list().indexOfChild(third), 1);
+    EXPECT_EQ(third->parent(), &list());
+    EXPECT_EQ(list().child(2), nullptr);
+}
+
+TEST_F(BoardForAssistiveTechnology, TellsWhatComesGoesAndIsRenamed)
+{
+    names();
+    session.box[2].visible = false;
+    screen.redrawCard(2);
+    session.box[3].tooltip = QStringLiteral("Nanny");
+    session.box[2].visible = true;
+    screen.redrawBoard();
+    EXPECT_THAT(told, ElementsAre(Pair(2, QAccessible::ObjectDestroyed), Pair(2, QAccessible::ObjectCreated),
+                                  Pair(3, QAccessible::NameChanged)));
+    EXPECT_EQ(names(), QStringList({"Card 1", "Card 2", "Nanny"}));
+
+    told.clear();
+    session.box[1].left += 20; // a step of a flight is no news
+    screen.redrawCard(1);
+    EXPECT_TRUE(told.empty());
+}
+
+TEST_F(BoardForAssistiveTechnology, AnnouncesTheSelectedCard)
+{
+    session.selectedCard = 2;
+    markCard(2);
+    EXPECT_THAT(told, ElementsAre(Pair(2, QAccessible::Selection), Pair(2, QAccessible::Focus)));
+    EXPECT_TRUE(list().child(1)->state().selected);
+    EXPECT_FALSE(list().child(0)->state().selected);
+    EXPECT_EQ(list().focusChild(), list().child(1));
+
+    session.SelectBox.visible = false; // as a click on the bare board leaves it
+    screen.redrawBoard();
+    EXPECT_FALSE(list().child(1)->state().selected);
+}
+
+TEST_F(BoardForAssistiveTechnology, CardsAreSelectedEditedAndPlayedWithoutAMouse)
+{
+    QStringList done;
+    screen.setRefresh = [&](const QString& word) { done.append(word); };
+    screen.openCard = [&](int card) { done.append(QString::number(card)); };
+    EXPECT_EQ(list().child(0)->actionInterface()->actionNames(), QStringList({"select", "edit", "play"}));
+    act(0, "select");
+    EXPECT_EQ(session.selectedCard, 1);
+    EXPECT_EQ(session.SelectBox.left, session.box[1].left - 2);
+    EXPECT_EQ(session.cardStack.fromBelow().back(), 1);
+    act(2, "edit");
+    EXPECT_EQ(done, QStringList({"Off", "3"}));
+
+    session.dbPath = testFolder().chopped(1);
+    QFile sound(testFolder() + QStringLiteral("CARDAAA2.snd"));
+    ASSERT_TRUE(sound.open(QIODevice::WriteOnly));
+    act(1, "play");
+    EXPECT_EQ(recorded.played.size(), 1);
+}
+
+TEST_F(BoardForAssistiveTechnology, TheBinTakesCardsAndIsClosedWithoutAMouse)
+{
+    int dropped = 0;
+    screen.cardDropped = [&](int card) { dropped = card; };
+    session.BigBin = {{600, 300, 128, 150, true}, false};
+    session.searchTitle = {QStringLiteral("Wings"), 10, 600, 80, 20, true};
+    screen.redrawBoard();
+    EXPECT_EQ(names(), QStringList({"Card 1", "Card 2", "Card 3", "Bin", "Wings"}));
+    act(1, "delete");
+    EXPECT_EQ(dropped, 2);
+    EXPECT_EQ(session.box[2].left, 624);
+    EXPECT_EQ(session.box[2].top, 345);
+    act(3, "close");
+    EXPECT_FALSE(session.BigBin.visible);
+    EXPECT_FALSE(list().child(0)->actionInterface()->actionNames().contains(QStringLiteral("delete")));
+}
