@@ -1,0 +1,112 @@
+// Opening and reloading a full database.
+#include "fullFolder.h"
+
+#include "core/session.h"
+#include "platform/fonts.h"
+#include "store/loading.h"
+#include "store/opening.h"
+
+#include <benchmark/benchmark.h>
+
+#include <QFile>
+#include <QImage>
+#include <QPainter>
+
+#include <map>
+
+namespace {
+
+constexpr QSize faceSize(82, 62);
+
+QByteArray bytesOf(const QString& path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        qFatal("A file of the benchmark is missing");
+    return file.readAll();
+}
+
+/// Reading, decoding, scaling and labelling the same files, and nothing else.
+void openingFloor(benchmark::State& state)
+{
+    QFont font = namedFont(QStringLiteral("Comic Sans MS"), 10);
+    font.setBold(true);
+    fullFolder();
+    for (auto _ : state) {
+        for (int card = 1; card <= fullDatabase; ++card) {
+            const QByteArray record = bytesOf(recordOf(card));
+            QImage face = QImage::fromData(bytesOf(pictureOf(card)))
+                              .convertToFormat(QImage::Format_RGB32)
+                              .scaled(faceSize, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+            QPainter painter(&face);
+            painter.setFont(font);
+            const QString label = QStringLiteral("Monster %1").arg(card);
+            painter.drawText(QPoint(1, 13), label);
+            painter.setPen(Qt::red);
+            painter.drawText(QPoint(0, 12), label);
+            painter.end();
+            benchmark::DoNotOptimize(record.data());
+            benchmark::DoNotOptimize(face.bits());
+        }
+    }
+}
+BENCHMARK(openingFloor)->Unit(benchmark::kMillisecond);
+
+void opening(benchmark::State& state)
+{
+    for (auto _ : state) {
+        state.PauseTiming();
+        startFresh();
+        state.ResumeTiming();
+        openChosenFolder(fullFolder());
+    }
+    state.counters["MB in memory"] = residentMegabytes();
+}
+BENCHMARK(opening)->Unit(benchmark::kMillisecond);
+
+/// Reading all records and pictures and comparing their bytes with those of the last time.
+void reloadFloor(benchmark::State& state)
+{
+    std::map<QString, QByteArray> last;
+    fullFolder();
+    for (auto _ : state) {
+        for (int card = 1; card <= fullDatabase; ++card) {
+            for (const QString& path : {recordOf(card), pictureOf(card)}) {
+                const QByteArray bytes = bytesOf(path);
+                QByteArray& before = last[path];
+                if (before != bytes)
+                    before = bytes;
+            }
+        }
+    }
+}
+BENCHMARK(reloadFloor)->Unit(benchmark::kMillisecond);
+
+void reloadOfUnchangedFolder(benchmark::State& state)
+{
+    startFresh();
+    openChosenFolder(fullFolder());
+    for (auto _ : state)
+        loadAllCards();
+}
+BENCHMARK(reloadOfUnchangedFolder)->Unit(benchmark::kMillisecond);
+
+void reloadWithOneCardChanged(benchmark::State& state)
+{
+    startFresh();
+    openChosenFolder(fullFolder());
+    const QByteArray pictures[] = {bytesOf(pictureOf(50)), bytesOf(pictureOf(51))};
+    int round = 0;
+    for (auto _ : state) {
+        state.PauseTiming();
+        QFile file(pictureOf(50));
+        if (!file.open(QIODevice::WriteOnly) || file.write(pictures[++round % 2]) < 0)
+            qFatal("The benchmark's picture can't be written");
+        file.close();
+        state.ResumeTiming();
+        loadAllCards();
+    }
+}
+BENCHMARK(reloadWithOneCardChanged)->Unit(benchmark::kMillisecond);
+
+} // namespace
