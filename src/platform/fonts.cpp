@@ -1,6 +1,7 @@
 #include "platform/fonts.h"
 
 #include <QFontDatabase>
+#include <QHash>
 
 namespace {
 
@@ -15,13 +16,21 @@ constexpr Substitute substitutes[] = {
     {"Arial", "Liberation Sans", 100},
 };
 
+/// Remembered, since the question goes through all families there are, and every card's face asks it.
+bool isInstalled(const QString& family)
+{
+    static QHash<QString, bool> known;
+    const auto found = known.constFind(family);
+    return found != known.constEnd() ? *found : *known.insert(family, QFontDatabase::hasFamily(family));
+}
+
 } // namespace
 
 QFont namedFont(const QString& family, double points)
 {
     QFont font(family);
     font.setPointSizeF(points);
-    if (QFontDatabase::hasFamily(family))
+    if (isInstalled(family))
         return font;
     for (const auto& [wanted, substitute, stretch] : substitutes) {
         if (family == QLatin1String(wanted)) {
