@@ -1,8 +1,8 @@
 #include "core/Form1.h"
+
 #include "board/boardWidget.h"
 #include "board/mode.h"
 #include "board/tablePanel.h"
-
 #include "core/assembly.h"
 #include "core/mainSettings.h"
 #include "core/screen.h"
@@ -19,6 +19,7 @@
 #include "platform/picture.h"
 #include "store/loading.h"
 
+#include <QAccessibleWidget>
 #include <QApplication>
 #include <QCloseEvent>
 #include <QHBoxLayout>
@@ -70,6 +71,14 @@ bool opensTeacherOptions(const QKeyEvent& key)
            QString(QChar(key.key())).toUpper() == session.keysValue;
 }
 
+/// A plain widget counts as a mere area for assistive technology: tells that it is the program's window.
+QAccessibleInterface* windowForReaders(const QString& className, QObject* object)
+{
+    return className == QLatin1String("Form1")
+               ? new QAccessibleWidget(static_cast<QWidget*>(object), QAccessible::Window)
+               : nullptr;
+}
+
 } // namespace
 
 Form1::Form1()
@@ -86,6 +95,7 @@ Form1::Form1()
     , tmrDelCard(onceTimer("tmrDelCard", 2, this))
     , TmrShow(onceTimer("TmrShow", 3000, this))
 {
+    QAccessible::installFactory(windowForReaders);
     setMinimumSize(leastSize);
     tablePanel->hide();
     fillBand();
