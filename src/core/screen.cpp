@@ -16,6 +16,7 @@ Screen blankScreen()
     blank.hideHints = [] {};
     blank.openCard = [](int) {};
     blank.cardDropped = [](int) {};
+    blank.openPictureEditor = [] {};
     blank.openTeacherOptions = [] {};
     blank.newDatabase = [] {};
     blank.openDatabase = [] {};

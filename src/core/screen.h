@@ -32,6 +32,7 @@ struct Screen {
     // Hooks: what a lower floor asks of a higher one.
     std::function<void(int card)> openCard;
     std::function<void(int card)> cardDropped;
+    std::function<void()> openPictureEditor; // for Picture1 of the card editor
     std::function<void()> openTeacherOptions;
     std::function<void()> newDatabase;
     std::function<void()> openDatabase;

@@ -250,6 +250,7 @@ struct Session {
     Table<QString, lastField> editorFieldName; // captions of the editor's labels
     WorkPicture Picture1{159, 120, {}, true};
     WorkPicture shrinkdummy{82, 62, {}, true}; // its size outlives the editor
+    QString cardSoundFound;                    // the sound file of the card in the editor; empty without one
     bool designReadOnly = false;               // ChkRD of the design dialog
     bool fieldTableForgotten = false;          // reset although the database of dbPath may still be designed
 };

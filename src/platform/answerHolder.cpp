@@ -121,6 +121,8 @@ void AnswerHolder::light(QPushButton* lit)
 void AnswerHolder::moveFocus(QPushButton* from, int by)
 {
     const auto to = possAnswer.indexOf(from) + by;
-    if (to >= 0 && to < possAnswer.size())
-        possAnswer[to]->setFocus();
+    if (to < 0 || to >= possAnswer.size())
+        return;
+    possAnswer[to]->setFocus();
+    findChild<QScrollArea*>()->ensureWidgetVisible(possAnswer[to], 0, 0);
 }

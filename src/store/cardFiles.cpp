@@ -32,19 +32,22 @@ void loadCardValues(int card)
     }
 }
 
+void writeCardValues(int card)
+{
+    CardFields& values = session.cardValue[card];
+    ItemWriter writer;
+    writer.quoted(values[0]);
+    for (int f = 1; f <= session.numFields; ++f) {
+        values[f] = session.DataBox[f];
+        writer.quoted(values[f]);
+    }
+    replaceFile(cardFile(card, ".tcd"), writer.bytes());
+    session.box[card].tooltip = values[1];
+}
+
 void saveCardValues(int card)
 {
-    withErrorBox([card] {
-        CardFields& values = session.cardValue[card];
-        ItemWriter writer;
-        writer.quoted(values[0]);
-        for (int f = 1; f <= session.numFields; ++f) {
-            values[f] = session.DataBox[f];
-            writer.quoted(values[f]);
-        }
-        replaceFile(cardFile(card, ".tcd"), writer.bytes());
-        session.box[card].tooltip = values[1];
-    });
+    withErrorBox([card] { writeCardValues(card); });
 }
 
 QString cardPicturePath(int card) { return cardFile(card, ".bmp"); }
@@ -62,11 +65,15 @@ bool showCardPicture(const QByteArray& bytes)
     return withErrorBox([&bytes] { session.Picture1.image = decodePicture(bytes); });
 }
 
+void writeCardPicture(int card)
+{
+    if (session.cardSize != stripSize)
+        replaceFile(cardPicturePath(card), bitmapBytes(session.Picture1.shown()));
+}
+
 void saveCardPicture(int card)
 {
-    if (session.cardSize == stripSize)
-        return;
-    withErrorBox([card] { replaceFile(cardPicturePath(card), bitmapBytes(session.Picture1.shown())); });
+    withErrorBox([card] { writeCardPicture(card); });
 }
 
 bool cardHasSound(int card) { return QFileInfo(cardFile(card, ".snd")).isFile(); }

@@ -15,6 +15,9 @@ void loadCardValues(int card);
 /// A failure is told in the error box.
 void saveCardValues(int card);
 
+/// The same, but a failure is raised.
+void writeCardValues(int card);
+
 /// The path of the card's picture.
 QString cardPicturePath(int card);
 
@@ -28,6 +31,9 @@ bool showCardPicture(const QByteArray& bytes);
 /// Writes what `Picture1` shows as the card's picture, unless cards are strips. A failure is told in the
 /// error box.
 void saveCardPicture(int card);
+
+/// The same, but a failure is raised.
+void writeCardPicture(int card);
 
 /// Plays the card's sound, if it has one, without waiting for its end.
 void playCardSound(int card);

@@ -1,0 +1,387 @@
+// The card editor as a child meets it: cards are opened and added through their routines, filled in with keys
+// and mouse.
+#include "editing/editCard.h"
+
+#include "core/screen.h"
+#include "editing/cardEditor.h"
+#include "platform/fittedLabel.h"
+#include "platform/forms.h"
+#include "platform/pictureFile.h"
+#include "store/cardFiles.h"
+#include "store/descriptionFile.h"
+#include "store/loading.h"
+#include "store/settings.h"
+#include "support/files.h"
+
+#include <QDropEvent>
+#include <QLineEdit>
+#include <QMimeData>
+#include <QScrollArea>
+#include <QTabBar>
+#include <QTest>
+
+#include <sys/mount.h>
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+namespace {
+
+constexpr int patience = 10000; // milliseconds
+
+class EditingCards : public Fresh {
+protected:
+    EditingCards()
+    {
+        session.dbPath = testFolder() + QStringLiteral("db");
+        QDir().mkpath(session.dbPath);
+        session.numFields = 3;
+        session.fieldName[1] = QStringLiteral("Name");
+        session.fieldName[2] = QStringLiteral("Legs");
+        session.fieldType[2] = QStringLiteral("123");
+        session.fieldName[3] = QStringLiteral("Colour");
+        session.fieldUseList[3] = true;
+        session.fieldListItem[3][1] = QStringLiteral("red");
+        session.fieldListItem[3][3] = QStringLiteral("blue");
+        session.cardSize = 1;
+        writeDbInfo();
+        putCard("AAAAAAAA", {"Ant", "6", "red"}, Qt::red);
+        putCard("CCCCCCCC", {"Cat", "4", "blue"}, Qt::blue);
+        loadAllCards();
+        screen.openCard = openCardEditor;
+    }
+
+    static void putCard(const QByteArray& id, const QList<QByteArray>& values, const QColor& colour)
+    {
+        const QString base = session.dbPath + QLatin1Char('/') + QString::fromLatin1(id);
+        putFile(base + QStringLiteral(".tcd"), "\"01000100\"\r\n\"" + values.join("\"\r\n\"") + "\"\r\n");
+        QImage picture(159, 120, QImage::Format_RGB32);
+        picture.fill(colour);
+        putFile(base + QStringLiteral(".bmp"), bitmapBytes(picture));
+    }
+
+    static QByteArray record(const char* id)
+    {
+        return bytesOf(session.dbPath + QLatin1Char('/') + QLatin1String(id) + QStringLiteral(".tcd"));
+    }
+
+    /// Prepares what the pupil does when the editor comes; then it has to be closed.
+    static void pupil(const std::function<void(editCard&)>& act)
+    {
+        recorded.dialogSteps.push_back([act](QDialog& dialog) {
+            act(dynamic_cast<editCard&>(dialog));
+            EXPECT_FALSE(dialog.isVisible());
+        });
+    }
+
+    static void type(editCard& editor, int f, const QString& text)
+    {
+        editor.DataBox[f]->setFocus();
+        editor.DataBox[f]->selectAll();
+        QTest::keyClicks(editor.DataBox[f], text);
+    }
+
+    static void click(editCard& editor, const char* button)
+    {
+        QTest::mouseClick(editor.findChild<QPushButton*>(QLatin1String(button)), Qt::LeftButton);
+    }
+
+    static void setting(const char* section, const QString& status)
+    {
+        writeSetting(settingsFile(), QLatin1String(section), QStringLiteral("Status"), status);
+    }
+};
+
+} // namespace
+
+TEST_F(EditingCards, ShowsTheCardsFieldsPictureAndName)
+{
+    session.fieldName[1] = QStringLiteral("The name by which everybody in the whole school knows it");
+    pupil([](editCard& editor) {
+        EXPECT_EQ(editor.windowTitle(), QStringLiteral("Edit Card 2"));
+        EXPECT_EQ(editor.DataBox[1]->text(), QStringLiteral("Cat"));
+        EXPECT_TRUE(editor.DataBox[3]->isReadOnly());
+        EXPECT_TRUE(editor.pullDownBut[3]->isVisible());
+        EXPECT_FALSE(editor.pullDownBut[2]->isVisible());
+        EXPECT_FALSE(editor.DataBox[4]->isVisible());
+        EXPECT_EQ(editor.DataBox[1]->accessibleName(), session.fieldName[1]);
+        EXPECT_EQ(editor.Picture1->grab().toImage().pixelColor(80, 60), QColor(Qt::blue));
+        EXPECT_FALSE(editor.FTab1->isVisible());
+        click(editor, "cancel_but");
+    });
+    openCardEditor(2);
+    EXPECT_EQ(session.selectedCard, 2);
+    EXPECT_EQ(session.dialogResult, QStringLiteral("Cancel"));
+    EXPECT_FALSE(isLoaded<editCard>());
+}
+
+TEST_F(EditingCards, TwelveFieldsStandInTwoColumnsOfSixThatAllFitASmallScreen)
+{
+    session.numFields = 12;
+    setting("Sound", QStringLiteral("1"));
+    pupil([](editCard& editor) {
+        EXPECT_TRUE(editor.FTab1->isVisible());
+        EXPECT_LE(editor.height(), 576);
+        EXPECT_LE(editor.width(), 960);
+        for (int f = 1; f <= 6; ++f) {
+            EXPECT_EQ(editor.DataBox[f]->x(), editor.DataBox[1]->x());
+            EXPECT_EQ(editor.DataBox[f]->y(), editor.DataBox[f + 6]->y());
+            EXPECT_GT(editor.fieldName[f + 6]->x(), editor.pullDownBut[f]->geometry().right());
+        }
+        click(editor, "cancel_but");
+    });
+    openCardEditor(1);
+}
+
+TEST_F(EditingCards, FiltersWhatIsTyped)
+{
+    struct Case {
+        int field;
+        const char* typed;
+        const char* kept;
+    };
+    const Case cases[] = {
+        {2, "1-2", "12"},
+        {2, "1.2.3", "1.2.3"},
+        {2, "three 3", "3"},
+        {1, "1-2 \"x\"", "1-2 \"x\""},
+    };
+    pupil([&](editCard& editor) {
+        for (const Case& c : cases) {
+            type(editor, c.field, QLatin1String(c.typed));
+            EXPECT_EQ(editor.DataBox[c.field]->text(), QLatin1String(c.kept));
+        }
+        EXPECT_EQ(recorded.beeps, 0);
+        editor.DataBox[2]->setText(QStringLiteral("1234"));
+        editor.DataBox[2]->setCursorPosition(2);
+        QTest::keyClicks(editor.DataBox[2], QStringLiteral("x9"));
+        EXPECT_EQ(editor.DataBox[2]->text(), QStringLiteral("12934"));
+
+        editor.DataBox[1]->setText(QString(200, u'W')); // set in code it goes the same way
+        const qsizetype most = editor.DataBox[1]->text().size();
+        EXPECT_EQ(recorded.beeps, 1);
+        EXPECT_THAT(int(most), testing::AllOf(testing::Gt(10), testing::Lt(20)));
+        editor.DataBox[1]->setCursorPosition(0);
+        QTest::keyClicks(editor.DataBox[1], QStringLiteral("W"));
+        EXPECT_EQ(recorded.beeps, 2);
+        EXPECT_EQ(editor.DataBox[1]->text(), QString(most, u'W'));
+        EXPECT_EQ(editor.DataBox[1]->cursorPosition(), most);
+        click(editor, "cancel_but");
+    });
+    openCardEditor(1);
+}
+
+TEST_F(EditingCards, OKWritesRecordAndPictureAndShowsThemOnTheBoard)
+{
+    pupil([](editCard& editor) {
+        type(editor, 1, QStringLiteral("Beetle"));
+        QTest::keyClick(editor.DataBox[1], Qt::Key_Return);
+    });
+    openCardEditor(1);
+    EXPECT_EQ(session.dialogResult, QStringLiteral("OK"));
+    EXPECT_EQ(record("AAAAAAAA"), "\"01000100\"\r\n\"Beetle\"\r\n\"6\"\r\n\"red\"\r\n");
+    EXPECT_EQ(session.cardValue[1][1], QStringLiteral("Beetle"));
+    EXPECT_EQ(session.box[1].tooltip, QStringLiteral("Beetle"));
+}
+
+TEST_F(EditingCards, EscapeCancelsAndTheFrameAnswersNothing)
+{
+    const QByteArray before = record("AAAAAAAA");
+    pupil([](editCard& editor) {
+        type(editor, 1, QStringLiteral("Beetle"));
+        QTest::keyClick(&editor, Qt::Key_Escape);
+    });
+    openCardEditor(1);
+    EXPECT_EQ(session.dialogResult, QStringLiteral("Cancel"));
+    pupil([](editCard& editor) { editor.close(); });
+    openCardEditor(1);
+    EXPECT_EQ(session.dialogResult, QString());
+    EXPECT_FALSE(isLoaded<editCard>());
+    EXPECT_EQ(record("AAAAAAAA"), before);
+    EXPECT_EQ(session.cardValue[1][1], QStringLiteral("Ant"));
+}
+
+TEST_F(EditingCards, AnAnswerIsPickedFromTheListByMouseAndByKeys)
+{
+    session.fieldUseList[1] = true;
+    session.fieldListItem[1][12] = QStringLiteral("last");
+    pupil([](editCard& editor) {
+        AnswerHolder& list = *editor.Answers;
+        const auto line = [&](int j) {
+            return list.findChild<QPushButton*>(QStringLiteral("possAnswer%1").arg(j));
+        };
+        QTest::keyClicks(editor.DataBox[3], QStringLiteral("green"));
+        EXPECT_EQ(editor.DataBox[3]->text(), QStringLiteral("red")); // locked
+
+        click(editor, "pullDownBut1");
+        click(editor, "pullDownBut3");
+        EXPECT_EQ(list.y(),
+                  editor.pullDownBut[3]->mapTo(&editor, QPoint()).y() + editor.pullDownBut[3]->height());
+        EXPECT_TRUE(list.isVisible());
+        click(editor, "pullDownBut3");
+        EXPECT_FALSE(list.isVisible());
+
+        click(editor, "pullDownBut3");
+        QTest::mouseClick(line(3), Qt::LeftButton);
+        EXPECT_EQ(editor.DataBox[3]->text(), QStringLiteral("blue"));
+        EXPECT_FALSE(list.isVisible());
+
+        editor.DataBox[3]->setFocus();
+        QTest::keyClick(editor.DataBox[3], Qt::Key_Down);
+        QTest::keyClick(editor.focusWidget(), Qt::Key_Down);
+        EXPECT_EQ(editor.focusWidget(), line(2)); // an empty row keeps its place
+        QTest::keyClick(editor.focusWidget(), Qt::Key_Return);
+        EXPECT_EQ(editor.DataBox[3]->text(), QString());
+
+        click(editor, "pullDownBut1");
+        for (int j = 2; j <= 12; ++j)
+            QTest::keyClick(editor.focusWidget(), Qt::Key_Down);
+        EXPECT_FALSE(line(12)->visibleRegion().isEmpty()); // all twelve can be reached
+        QTest::keyClick(editor.focusWidget(), Qt::Key_Escape);
+        EXPECT_FALSE(list.isVisible());
+        EXPECT_TRUE(editor.isVisible());
+        click(editor, "pullDownBut1");
+        QTest::mouseClick(&editor, Qt::LeftButton, {}, QPoint(2, 2));
+        EXPECT_FALSE(list.isVisible());
+        click(editor, "cancel_but");
+    });
+    openCardEditor(1);
+}
+
+TEST_F(EditingCards, ADroppedPictureFillsTheFrameAndAWrongOneChangesNothing)
+{
+    QImage wide(600, 30, QImage::Format_RGB32);
+    wide.fill(Qt::green);
+    ASSERT_TRUE(wide.save(inTestFolder(QStringLiteral("wide.png"))));
+    putFile(inTestFolder(QStringLiteral("story.txt")), "Once upon a time");
+    const auto drop = [](editCard& editor, const QString& name) {
+        QMimeData files;
+        files.setUrls(
+            {QUrl::fromLocalFile(inTestFolder(name)), QUrl::fromLocalFile(QStringLiteral("/other"))});
+        QDropEvent event(QPointF(5, 5), Qt::CopyAction, &files, Qt::LeftButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(editor.Picture1, &event);
+    };
+    pupil([&](editCard& editor) {
+        drop(editor, QStringLiteral("wide.png"));
+        drop(editor, QStringLiteral("story.txt"));
+        EXPECT_THAT(recorded.messages, ElementsAre(QStringLiteral("Error|Invalid picture")));
+        click(editor, "ok_but");
+    });
+    openCardEditor(1);
+    const QImage kept = readPicture(cardPicturePath(1));
+    EXPECT_EQ(kept.size(), QSize(159, 120));
+    EXPECT_EQ(kept.pixelColor(0, 0), QColor(Qt::green));
+    EXPECT_EQ(kept.pixelColor(158, 119), QColor(Qt::green));
+}
+
+TEST_F(EditingCards, ALockedDatabaseCanBeLookedAtOnly)
+{
+    setting("LockDB", QStringLiteral("1"));
+    setting("Sound", QStringLiteral("1"));
+    pupil([](editCard& editor) {
+        EXPECT_TRUE(QTest::qWaitFor(
+            [&] { return !editor.findChild<QPushButton*>(QStringLiteral("ok_but"))->isEnabled(); },
+            patience));
+        EXPECT_FALSE(editor.Picture1->isEnabled());
+        EXPECT_FALSE(editor.FTab1->isEnabled());
+        QTest::keyClick(editor.DataBox[1], Qt::Key_Return);
+        EXPECT_TRUE(editor.isVisible());
+        click(editor, "cancel_but");
+    });
+    openCardEditor(1);
+}
+
+TEST_F(EditingCards, StripsHaveNoPicture)
+{
+    session.cardSize = 2;
+    writeDbInfo();
+    QFile::remove(cardPicturePath(1));
+    pupil([](editCard& editor) {
+        EXPECT_FALSE(editor.Picture1->isVisible());
+        click(editor, "ok_but");
+    });
+    openCardEditor(1);
+    EXPECT_FALSE(QFile::exists(cardPicturePath(1)));
+    EXPECT_THAT(recorded.messages, IsEmpty());
+}
+
+TEST_F(EditingCards, AMissingPictureIsToldAndTheEditorOpensAllTheSame)
+{
+    QFile::remove(cardPicturePath(1));
+    pupil([](editCard& editor) { click(editor, "cancel_but"); });
+    openCardEditor(1);
+    EXPECT_THAT(recorded.messages, ElementsAre(QStringLiteral("Error|File not found")));
+    openCardEditor(101);
+    EXPECT_EQ(recorded.messages.last(), QStringLiteral("Error|Subscript out of range"));
+}
+
+TEST_F(EditingCards, AddingACardWritesABlankPictureAndThenTheRecord)
+{
+    recorded.randoms = {0.0, 0.04, 0.08, 0.5, 0.5, 0.5, 0.5, 0.999};
+    pupil([](editCard& editor) {
+        EXPECT_EQ(editor.windowTitle(), QStringLiteral("Edit Card 3"));
+        EXPECT_EQ(editor.DataBox[1]->text(), QString());
+        EXPECT_EQ(bytesOf(cardPicturePath(3)), bitmapBytes(session.Picture1.shown()));
+        type(editor, 1, QStringLiteral("Bee"));
+        click(editor, "ok_but");
+    });
+    addCard();
+    EXPECT_EQ(session.numCards, 3);
+    EXPECT_EQ(QString::fromLatin1(record("ABCNNNNZ").mid(12, 5)), QStringLiteral("\"Bee\""));
+    EXPECT_TRUE(session.box[3].visible);
+    EXPECT_THAT(session.title.toStdString(), testing::HasSubstr("3 Card(s)"));
+}
+
+TEST_F(EditingCards, CancelTakesTheNewCardBackAndTheFrameKeepsIt)
+{
+    pupil([](editCard& editor) { click(editor, "cancel_but"); });
+    addCard();
+    EXPECT_EQ(session.numCards, 2);
+    EXPECT_FALSE(session.box[3].visible);
+    EXPECT_EQ(session.selectedCard, 2);
+    EXPECT_TRUE(QFile::exists(session.dbPath + QStringLiteral("/NNNNNNNN.bmp")));
+
+    pupil([](editCard& editor) { editor.close(); });
+    addCard();
+    EXPECT_EQ(session.numCards, 3);
+    EXPECT_EQ(record("NNNNNNNN"), QByteArray());
+}
+
+TEST_F(EditingCards, TheHundredthCardIsRefusedWithoutAWord)
+{
+    session.numCards = session.maxCards;
+    addCard();
+    EXPECT_EQ(session.numCards, 99);
+    EXPECT_EQ(recorded.beeps, 0);
+}
+
+TEST_F(EditingCards, OnAFullDiskOKClosesInSilenceAndWhatWasThereStays)
+{
+    const QString disk = inTestFolder(QStringLiteral("disk"));
+    QDir().mkpath(disk);
+    if (::mount("tmpfs", qPrintable(disk), "tmpfs", 0, "size=192k") != 0)
+        GTEST_SKIP() << "no small disk can be mounted here";
+    for (const QString& file : QDir(session.dbPath).entryList(QDir::Files))
+        ASSERT_TRUE(QFile::copy(session.dbPath + QLatin1Char('/') + file, disk + QLatin1Char('/') + file));
+    session.dbPath = disk;
+    QFile ballast(disk + QStringLiteral("/ballast"));
+    ASSERT_TRUE(ballast.open(QIODevice::WriteOnly | QIODevice::Unbuffered));
+    while (ballast.write(QByteArray(512, 'x')) > 0) {
+    }
+    const QByteArray before = record("AAAAAAAA");
+    const QByteArray pictureBefore = bytesOf(cardPicturePath(1));
+
+    pupil([](editCard& editor) {
+        type(editor, 1, QStringLiteral("Beetle"));
+        session.Picture1.image.fill(Qt::yellow);
+        click(editor, "ok_but");
+    });
+    openCardEditor(1);
+    EXPECT_EQ(session.dialogResult, QStringLiteral("OK"));
+    EXPECT_THAT(recorded.messages, IsEmpty());
+    EXPECT_EQ(record("AAAAAAAA"), before);
+    EXPECT_EQ(bytesOf(cardPicturePath(1)), pictureBefore);
+    EXPECT_EQ(session.cardValue[1][1], QStringLiteral("Ant"));
+    ballast.close();
+    ::umount(qPrintable(disk));
+}
