@@ -8,6 +8,7 @@
 #include "core/dispatch.h"
 #include "core/screen.h"
 #include "core/session.h"
+#include "editing/editCard.h"
 #include "editing/newCommand.h"
 #include "platform/balloon.h"
 #include "platform/forms.h"
@@ -47,6 +48,7 @@ void connectCommands()
     screen.newDatabase = makeNewDatabase;
     screen.openDatabase = openDatabase;
     screen.cardDropped = checkDropOnBin;
+    screen.openCard = openCardEditor;
 }
 
 } // namespace

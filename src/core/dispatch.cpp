@@ -5,6 +5,7 @@
 #include "core/screen.h"
 #include "core/session.h"
 #include "core/shutDown.h"
+#include "editing/cardEditor.h"
 #include "editing/designCommand.h"
 #include "editing/newCommand.h"
 #include "platform/desktop.h"
@@ -50,7 +51,7 @@ const MenuLine lines[] = {
     {QStringLiteral("Save As..."), {}, asItWas, nothing},
     {QStringLiteral("Print..."), QStringLiteral("menuPrint"), asItWas, nullptr},
     {QStringLiteral("Exit"), QStringLiteral("menuExit"), 0, shutDown},
-    {QStringLiteral("Add Card..."), QStringLiteral("menuAddCard"), 0, nullptr},
+    {QStringLiteral("Add Card..."), QStringLiteral("menuAddCard"), 0, addCard},
     {QStringLiteral("Delete Card"), QStringLiteral("menuDeleteCard"), 0, showBin},
     {QStringLiteral("Design Cards..."), QStringLiteral("menuDesignCards"), 0, designCommand},
     {QStringLiteral("Arrange Cards..."), QStringLiteral("menuArrangeCards"), 0, arrangeCommand},

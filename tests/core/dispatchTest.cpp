@@ -69,7 +69,7 @@ TEST_F(Dispatch, TheseWordsStillWaitForTheirCommand)
             waiting.append(word);
     }
     EXPECT_EQ(waiting.join(QLatin1Char('|')),
-              QStringLiteral("Print...|Add Card...|Make Graph...|Report...|Statistics...|Help"));
+              QStringLiteral("Print...|Make Graph...|Report...|Statistics...|Help"));
 }
 
 TEST_F(Dispatch, EveryCommandFirstClearsTheTableAndClosesTheMenu)
