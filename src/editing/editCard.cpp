@@ -148,7 +148,7 @@ void editCard::connectControls()
     }
     Answers->picked = [this](const QString& answer) { DataBox[answersOf]->setText(answer); };
     Answers->installEventFilter(this);
-    onClick(Picture1, [] { screen.openPictureEditor(); });
+    onClick(Picture1, [] { ::screen.openPictureEditor(); });
     connect(Picture1, &PictureBox::fileDropped, this, [this](const QString& file) {
         guarded([&] { paintDroppedPicture(readPicture(file)); });
         Picture1->update();

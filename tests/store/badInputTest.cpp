@@ -9,6 +9,7 @@
 
 #include <fcntl.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 using BadInput = Fresh;
 
@@ -16,7 +17,7 @@ TEST_F(BadInput, AFolderOfRubbishOpensWithMessages)
 {
     session.dbPath = writeDatabase(QStringLiteral("db"), 5);
     const QString folder = session.dbPath + QLatin1Char('/');
-    const auto file = [&](int card, const char* ending) {
+    const auto file = [&](int card, const char* ending) -> QString {
         return folder + cardName(card) + QLatin1String(ending);
     };
     putFile(folder + QStringLiteral("db-info.tdb"), QByteArray(1 << 20, '\xFF'));
@@ -30,7 +31,7 @@ TEST_F(BadInput, AFolderOfRubbishOpensWithMessages)
     ASSERT_EQ(mkfifo(QFile::encodeName(file(4, ".bmp")).constData(), 0600), 0);
     QDir(folder).mkdir(cardName(5) + QStringLiteral(".snd"));
     // A name that is no text in this system's encoding, as old memory sticks have them.
-    const QByteArray oddName = QFile::encodeName(folder) + "b\xE4r.tcd";
+    const QByteArray oddName = QFile::encodeName(folder) + "z\xE4r.tcd";
     const int odd = open(oddName.constData(), O_CREAT | O_WRONLY, 0600);
     ASSERT_GE(odd, 0);
     close(odd);
@@ -50,4 +51,7 @@ TEST_F(BadInput, AFolderOfRubbishOpensWithMessages)
     EXPECT_EQ(count("Path/File access error"), 1);
     EXPECT_EQ(count("File not found"), 1) << "the picture of the odd name";
     EXPECT_EQ(recorded.beeps, recorded.messages.size());
+
+    // The test folder's own end can't spell this name.
+    EXPECT_EQ(unlink(oddName.constData()), 0);
 }
