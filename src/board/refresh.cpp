@@ -42,7 +42,7 @@ QTimer& refreshTimer()
 {
     static QPointer<QTimer> timer;
     if (!timer) {
-        timer = new QTimer(qApp);
+        timer = new QTimer(QCoreApplication::instance());
         timer->setInterval(interval);
         QObject::connect(timer, &QTimer::timeout, [] { guarded(tick); });
     }
