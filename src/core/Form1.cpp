@@ -3,7 +3,6 @@
 #include "board/boardWidget.h"
 #include "board/mode.h"
 #include "board/tablePanel.h"
-#include "core/assembly.h"
 #include "core/mainSettings.h"
 #include "core/screen.h"
 #include "core/session.h"
@@ -142,7 +141,7 @@ void Form1::changeMode(const QPushButton& button)
 
 void Form1::load()
 {
-    assemble(*this);
+    assemble();
     setControlsAtStart();
     setTitle(titleWithoutDatabase());
     desktop.setBusyPointer(false);

@@ -44,6 +44,8 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    /// Puts the floors together: what lower ones ask of higher ones leads to its routine from here on.
+    void assemble();
     void fillBand();
     void connectControls();
     void changeMode(const QPushButton& button);

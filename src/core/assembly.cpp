@@ -1,5 +1,4 @@
-#include "core/assembly.h"
-
+// Where the floors are put together: the one place that knows which routine answers which hook of the screen.
 #include "board/boardWidget.h"
 #include "board/refresh.h"
 #include "board/tablePanel.h"
@@ -53,10 +52,10 @@ void connectCommands()
 
 } // namespace
 
-void assemble(Form1& window)
+void Form1::assemble()
 {
     connectWindow();
     connectCommands();
-    window.board->connectScreen();
-    installSpeedWindow(window);
+    board->connectScreen();
+    installSpeedWindow(*this);
 }
