@@ -99,6 +99,7 @@ Form1::Form1()
     tablePanel->hide();
     fillBand();
     connectControls();
+    board->setFocus(); // no heading wears the focus ring before a key was pressed
 }
 
 void Form1::fillBand()
