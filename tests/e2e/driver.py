@@ -78,8 +78,16 @@ class Tour:
     # The program
 
     def start(self):
-        """Starts the program; the tour goes on at once."""
+        """Starts the program, or one more copy of it, which the tour turns to at once. Gives its process."""
         self._process = self.desk.start(str(self.program / "tallymoor"))
+        return self._process
+
+    def turn_to(self, copy):
+        """From now on the tour reads and drives that copy of the program, with its windows in front."""
+        self._process = copy
+        for number in self._window_numbers("Tallymoor"):
+            if self.desk.run("xdotool", "getwindowpid", number, check=False).strip() == str(copy.pid):
+                self.desk.run("xdotool", "windowactivate", "--sync", number)
 
     def end(self):
         """Waits until the program has ended by itself, in order."""

@@ -1,0 +1,111 @@
+"""Two pupils look at one folder: what one of them, or a third workstation, does is seen by both within a tick.
+
+Then the folder goes away and comes back: one message, no card lost."""
+
+import shutil
+import sys
+import time
+
+sys.dont_write_bytecode = True
+from driver import Tour  # noqa: E402
+
+TICK = 2  # seconds
+WITHIN_A_TICK = 2 * TICK  # and the time to read and to be read
+
+
+def open_last_database(tour):
+    tour.window("Welcome to Tallymoor")
+    last = tour.find("radio button", "Open last Database")
+    tour.click(last)
+    tour.wait_until(lambda: last.has("checked"), "the last database to be chosen")
+    tour.click(tour.find("push button", "OK"))
+    tour.window("Card\\(s\\)")
+
+
+def refreshes(tour):
+    return tour.find("check box", "Refresh Database").has("checked")
+
+
+def tick_refresh(tour):
+    if not refreshes(tour):
+        tour.click(tour.find("check box", "Refresh Database"))
+        tour.wait_until(lambda: refreshes(tour), "the refresh to be on")
+
+
+def card(tour, label):
+    """The card with that label on the board, None when there is none."""
+    return next(iter(tour.all("list item", label)), None)
+
+
+def both_see(tour, copies, label, there):
+    """Waits until both copies show a card with that label, or none, and tells the slower one's seconds."""
+    began = time.monotonic()
+    for copy in copies:
+        tour.turn_to(copy)
+        tour.wait_until(lambda: bool(card(tour, label)) == there, f'"{label}" to be {"seen" if there else "gone"}',
+                        WITHIN_A_TICK)
+    print(f'"{label}" {"seen" if there else "gone"} in both after {time.monotonic() - began:.1f} s')
+
+
+def rewrite(record, old, new):
+    """Changes a record as another workstation does: at one stroke."""
+    draft = record.with_suffix(".draft")
+    draft.write_bytes(record.read_bytes().replace(old.encode("cp1252"), new.encode("cp1252")))
+    draft.replace(record)
+
+
+with Tour("refresh") as tour:
+    database = tour.databases()[0]
+    tour.settings.set("Last DB", "Path", str(database))
+    names = list(tour.card_labels(database).items())
+    copies = []
+    for _ in range(2):
+        copies.append(tour.start())
+        open_last_database(tour)
+        tick_refresh(tour)
+    file_heading = tour.find("push button", "File")
+    tour.check(file_heading.rectangle[3] == 32, f"the headings are {file_heading.rectangle[3]} pixels high")
+
+    # A new card, a changed one, a deleted one
+    (first, first_label), (second, second_label) = names[0], names[1]
+    shutil.copy(database / f"{first}.bmp", database / "ZZZZZZZZ.bmp")
+    shutil.copy(database / f"{first}.tcd", database / "ZZZZZZZZ.new")
+    rewrite(database / "ZZZZZZZZ.new", first_label, "Visitor")
+    (database / "ZZZZZZZZ.new").rename(database / "ZZZZZZZZ.tcd")
+    both_see(tour, copies, "Visitor", True)
+    rewrite(database / f"{second}.tcd", second_label, "Renamed")
+    both_see(tour, copies, "Renamed", True)
+    for ending in ("tcd", "bmp"):
+        (database / f"{first}.{ending}").unlink()
+    both_see(tour, copies, first_label, False)
+    tour.picture("changed")
+
+    # A card that is held stays under the mouse while others come and go
+    held = card(tour, "Renamed")
+    x, y = held.centre
+    tour.desk.run("xdotool", "mousemove", str(x), str(y), "mousedown", "1", "mousemove", str(x + 150), str(y + 90),
+                  "mousemove", str(x + 300), str(y + 180))
+    tour.wait_until(lambda: held.centre == (x + 300, y + 180), "the card to follow the mouse")
+    rewrite(database / f"{second}.tcd", "Renamed", "Changed")
+    tour.wait_until(lambda: card(tour, "Changed"), "the held card's new label", WITHIN_A_TICK)
+    tour.check(card(tour, "Changed").centre == (x + 300, y + 180), "the held card left the mouse")
+    tour.desk.run("xdotool", "mouseup", "1")
+
+    # The folder goes away: one message, every card stays; it comes back and can be looked at again
+    tour.turn_to(copies[0])
+    tour.click(tour.find("check box", "Refresh Database"))
+    tour.turn_to(copies[1])
+    cards = len(tour.all("list item"))
+    away = database.with_name("away")
+    database.rename(away)
+    tour.find("label", "Path not found")
+    tour.picture("gone")
+    tour.click(tour.find("push button", "OK"))
+    tour.wait_until(lambda: not refreshes(tour), "the refresh to be off")
+    time.sleep(2 * TICK)  # a second message would come now
+    tour.check(not tour.all("label", "Path not found"), "the missing folder was told twice")
+    tour.check(len(tour.all("list item")) == cards, "cards were dropped from the board")
+    away.rename(database)
+    tick_refresh(tour)
+    tour.check(len(tour.all("list item")) == cards, "cards were lost")
+    tour.picture("back")
