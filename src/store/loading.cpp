@@ -22,6 +22,21 @@ constexpr int idLength = 8;
 constexpr int stripSize = 2;
 const QString recordEnding = QStringLiteral(".tcd");
 
+/// Whether the entry is a file. One that has just vanished is none; any other failure counts as the folder's:
+/// cards must not drop from the board because a share is dying.
+bool isFile(const std::filesystem::directory_entry& entry, std::error_code& failed)
+{
+    const bool file = entry.is_regular_file(failed);
+    if (failed == std::errc::no_such_file_or_directory)
+        failed.clear();
+    return file;
+}
+
+bool namesRecord(const QString& name)
+{
+    return name.endsWith(recordEnding, Qt::CaseInsensitive) && !name.startsWith(QLatin1Char('.'));
+}
+
 /// The names of the record files, in the order of the cards. Raises 76 when the folder can't be listed.
 QStringList recordFiles(const QString& folder)
 {
@@ -31,11 +46,10 @@ QStringList recordFiles(const QString& folder)
     QStringList names;
     while (!failed && entries != fs::directory_iterator()) {
         const QString name = QFile::decodeName(entries->path().filename().c_str());
-        std::error_code gone; // a file that has just vanished is none
-        if (name.endsWith(recordEnding, Qt::CaseInsensitive) && !name.startsWith(QLatin1Char('.')) &&
-            entries->is_regular_file(gone))
+        if (namesRecord(name) && isFile(*entries, failed))
             names.append(name);
-        entries.increment(failed);
+        if (!failed)
+            entries.increment(failed);
     }
     if (failed)
         throw RuntimeError(pathNotFound);
