@@ -7,6 +7,7 @@
 #include <QAccessibleWidget>
 #include <QHash>
 #include <QPointer>
+#include <QWidget>
 
 namespace {
 

@@ -10,6 +10,7 @@
 #include <QPaintEvent>
 #include <QPainter>
 #include <QPointer>
+#include <QTextDocument>
 #include <QToolTip>
 
 namespace {

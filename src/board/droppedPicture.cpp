@@ -2,6 +2,8 @@
 
 #include "core/session.h"
 
+#include <QPainter>
+
 void paintDroppedPicture(const QImage& dropped)
 {
     WorkPicture& box = session.Picture1;
