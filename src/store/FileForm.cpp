@@ -8,7 +8,12 @@
 #include "platform/textLines.h"
 #include "store/settings.h"
 
+#include <QApplication>
+#include <QBoxLayout>
+#include <QFileInfo>
+#include <QGridLayout>
 #include <QKeyEvent>
+#include <QLineEdit>
 #include <QShortcut>
 #include <QSignalBlocker>
 #include <QSlider>

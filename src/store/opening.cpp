@@ -7,6 +7,7 @@
 #include "core/session.h"
 #include "core/title.h"
 #include "platform/desktop.h"
+#include "platform/errors.h"
 #include "platform/wholeFile.h"
 #include "store/loading.h"
 #include "store/settings.h"
@@ -79,12 +80,14 @@ void enableDatabaseControls()
 
 void tileCards()
 {
-    const int columns = int(std::sqrt(double(session.numCards)) + 0.5);
+    const int columns = int(std::lround(std::sqrt(double(session.numCards))));
     const double dx = std::min(session.boardWidth / (columns + 1), session.box[1].width + tileGap);
     const double dy = std::min(session.boardHeight / (columns + 2), session.box[1].height + tileGap);
     for (int card = 1; card <= session.numCards; ++card) {
-        session.box[card].left = session.box[0].left + ((card - 1) % columns) * dx;
-        session.box[card].top = session.box[0].top + ((card - 1) / columns) * dy;
+        const int column = (card - 1) % columns;
+        const int row = (card - 1) / columns;
+        session.box[card].left = session.box[0].left + column * dx;
+        session.box[card].top = session.box[0].top + row * dy;
         session.cardStack.bringToFront(card);
     }
 }

@@ -3,6 +3,8 @@
 
 #include "platform/answerButtons.h"
 
+class QLabel;
+
 class warnForm : public AnswerDialog {
     Q_OBJECT
 public:

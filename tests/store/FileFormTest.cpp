@@ -71,7 +71,9 @@ protected:
             return found != nullptr;
         };
         EXPECT_TRUE(QTest::qWaitFor(look, patience)) << name.toStdString();
-        return found != nullptr ? found : files.iconBox[0];
+        if (found == nullptr)
+            found = files.iconBox[0];
+        return found;
     }
 
     static void doubleClick(FileForm& files, const QString& kind, const QString& name)
