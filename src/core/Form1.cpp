@@ -67,7 +67,8 @@ void follow(QWidget& control, const ControlState& state)
 bool opensTeacherOptions(const QKeyEvent& key)
 {
     return key.modifiers() == (Qt::ControlModifier | Qt::ShiftModifier) &&
-           QString(QChar(key.key())).toUpper() == session.keysValue;
+           key.key() <= 0xffff && // a character, not a key such as Control itself
+           QString(QChar(char16_t(key.key()))).toUpper() == session.keysValue;
 }
 
 /// A plain widget counts as a mere area for assistive technology: tells that it is the program's window.

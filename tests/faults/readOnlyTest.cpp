@@ -114,7 +114,7 @@ TEST_F(ReadOnly, AFileOverwrittenWhereItStandsIsWholeOnAFullDisk)
         useFolder(disk.path());
         const QString path = disk.path() + QLatin1Char('/') + QLatin1String(writer.file);
         writer.write(0);
-        const QByteArray before = bytesOf(path).first(20);
+        const QByteArray before = bytesOf(path).left(20);
         putFile(path, before);
         setMode(path, 0666);
         setMode(disk.path(), 0555);
