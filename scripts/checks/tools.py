@@ -51,15 +51,11 @@ def cppcheck(tree, files):
 
 
 def compile_commands(tree):
-    """Configures a build without precompiled headers, which clang can't read, and makes the generated sources."""
+    """Configures a build without precompiled headers, which clang can't read. No source of ours includes a
+    generated one, so nothing needs to be built."""
     folder = tree.root / COMPILED
-    result = run(tree, "cmake", "--preset", "dev", "-B", str(folder), "-DCMAKE_EXPORT_COMPILE_COMMANDS=ON",
-                 "-DCMAKE_DISABLE_PRECOMPILE_HEADERS=ON", "-DTALLYMOOR_BENCH=ON")
-    if result.returncode:
-        return result
-    targets = run(tree, "cmake", "--build", str(folder), "--target", "help").stdout
-    generated = re.findall(r"^(\w+_autogen): phony", targets, re.MULTILINE)
-    return run(tree, "cmake", "--build", str(folder), "--target", *generated) if generated else result
+    return run(tree, "cmake", "--preset", "dev", "-B", str(folder), "-DCMAKE_EXPORT_COMPILE_COMMANDS=ON",
+               "-DCMAKE_DISABLE_PRECOMPILE_HEADERS=ON", "-DTALLYMOOR_BENCH=ON")
 
 
 def clang_tidy(tree, files):
