@@ -2,6 +2,7 @@
 
 #include "board/boardPainter.h"
 #include "board/places.h"
+#include "core/menu.h"
 #include "core/screen.h"
 #include "core/session.h"
 #include "store/cardFiles.h"
@@ -39,15 +40,6 @@ void dragTo(Thing& thing, QPointF point)
 {
     thing.left = point.x() - session.dragOffsetX / session.twipsPerPixelX;
     thing.top = point.y() - session.dragOffsetY / session.twipsPerPixelY;
-}
-
-void closeMenuAndHideFrame()
-{
-    session.openMenuIndex = -1;
-    session.MenuHolder.visible = false;
-    session.SelectBox.visible = false;
-    screen.showControls();
-    screen.redrawBoard();
 }
 
 /// The card lies where it is to stay.
@@ -190,7 +182,7 @@ void Hand::letGo(bool rightButton, bool stillPressed)
     } else if (held.part == Part::lid) {
         closeBin();
     } else if (held.part == Part::board) {
-        closeMenuAndHideFrame();
+        closeMenu();
     }
 }
 
