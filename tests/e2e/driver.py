@@ -27,7 +27,8 @@ from settings import Settings  # noqa: E402
 
 
 class Tour:
-    """A copy of the program with the sample databases, on a desk of its own. `program` is the folder of the copy."""
+    """A copy of the program with the sample databases, on a desk of its own. `program` is the folder of the copy;
+    `clicks` counts what the mouse has done: clicks, a double one as two, and drags."""
 
     def __init__(self, name):
         options = argparse.ArgumentParser(description=f"The tour {name}.")
@@ -46,6 +47,7 @@ class Tour:
         self.settings = Settings(self.program)
         self._process = None
         self._pictures_taken = 0
+        self.clicks = 0
         self._copy_program()
         return self
 
@@ -162,10 +164,20 @@ class Tour:
 
     # Mouse and keys
 
+    @staticmethod
+    def place(where):
+        """The middle of a part, or the place on the screen itself."""
+        return where if isinstance(where, tuple) else where.centre
+
+    def point(self, where):
+        """Moves the mouse there."""
+        self.desk.run("xdotool", "mousemove", *map(str, self.place(where)))
+
     def click(self, where, button=1, times=1):
         """Clicks a part in its middle, or a place on the screen."""
-        x, y = where if isinstance(where, tuple) else where.centre
+        x, y = self.place(where)
         self.desk.run("xdotool", "mousemove", str(x), str(y), "click", "--repeat", str(times), "--delay", "60", str(button))
+        self.clicks += times
 
     def double_click(self, where):
         self.click(where, times=2)
@@ -175,14 +187,16 @@ class Tour:
 
     def drag(self, where, by, button=1):
         """Takes a part by its middle, or whatever lies at a place, and puts it down `by` pixels right and down."""
-        x, y = where if isinstance(where, tuple) else where.centre
+        x, y = self.place(where)
+        self.clicks += 1
         steps = [(x + by[0] * i // 4, y + by[1] * i // 4) for i in (1, 2, 3, 4)]
         moves = [word for step in steps for word in ("mousemove", *map(str, step))]
         self.desk.run("xdotool", "mousemove", str(x), str(y), "mousedown", str(button), *moves, "mouseup", str(button))
 
     def drop_file(self, path, where):
         """Drags a file from a window of another program onto a part, or a place on the screen, where it is taken."""
-        x, y = where if isinstance(where, tuple) else where.centre
+        x, y = self.place(where)
+        self.clicks += 1
         said = self.desk.folder / "drop.log"
         said.unlink(missing_ok=True)
         self.desk.start(str(self._source / "drop_source"), str(path), log=said)
@@ -201,6 +215,32 @@ class Tour:
 
     def type(self, text):
         self.desk.run("xdotool", "type", "--delay", "5", text)
+
+    # What every pupil does
+
+    def begin_with(self, choice):
+        """Answers the welcome dialog."""
+        self.window("Welcome to Tallymoor")
+        option = self.find("radio button", choice)
+        self.click(option)
+        self.wait_until(lambda: option.has("checked"), f'"{choice}" to be chosen')
+        self.click(self.find("push button", "OK"))
+
+    def open_last(self):
+        """Answers the welcome dialog with the last database and waits for its board."""
+        self.begin_with("Open last Database")
+        self.window("Card\\(s\\)")
+
+    def choose(self, heading, line):
+        """Opens a menu and chooses a line of it."""
+        self.click(self.find("push button", heading))
+        self.click(self.find("push button", line, within=self.find("frame", heading)))
+
+    def answer(self, word):
+        """Presses the button with that word and waits until its dialog has gone."""
+        button = self.find("push button", word)
+        self.click(button)
+        self.wait_until(lambda: not self.all("push button", word), f'the dialog with "{word}" to go')
 
     # Its databases
 

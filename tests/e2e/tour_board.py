@@ -13,14 +13,10 @@ with Tour("board") as tour:
     before = tour.contents(database)
 
     tour.start()
-    welcome = tour.window("Welcome to Tallymoor")
+    tour.window("Welcome to Tallymoor")
+    tour.find("radio button", "Open last Database")
     tour.picture("welcome")
-    last = tour.find("radio button", "Open last Database")
-    tour.click(last)
-    tour.wait_until(lambda: last.has("checked"), "the last database to be chosen")
-    tour.click(tour.find("push button", "OK"))
-
-    tour.window(database.name)
+    tour.open_last()
     board = tour.find("list", "Board")
     moved = tour.wait_until(lambda: tour.all("list item", within=board), "the cards")[0]
     left, top, width, height = moved.rectangle

@@ -13,15 +13,6 @@ TICK = 2  # seconds
 WITHIN_A_TICK = 2 * TICK  # and the time to read and to be read
 
 
-def open_last_database(tour):
-    tour.window("Welcome to Tallymoor")
-    last = tour.find("radio button", "Open last Database")
-    tour.click(last)
-    tour.wait_until(lambda: last.has("checked"), "the last database to be chosen")
-    tour.click(tour.find("push button", "OK"))
-    tour.window("Card\\(s\\)")
-
-
 def refreshes(tour):
     return tour.find("check box", "Refresh Database").has("checked")
 
@@ -61,7 +52,7 @@ with Tour("refresh") as tour:
     copies = []
     for _ in range(2):
         copies.append(tour.start())
-        open_last_database(tour)
+        tour.open_last()
         tick_refresh(tour)
     file_heading = tour.find("push button", "File")
     tour.check(file_heading.rectangle[3] == 32, f"the headings are {file_heading.rectangle[3]} pixels high")
