@@ -28,6 +28,7 @@ moveForm::moveForm()
     setWindowTitle(QStringLiteral("Arrange Cards"));
     moveCombo->setItemDelegate(new QStyledItemDelegate(moveCombo));
     moveCombo->setAccessibleName(QStringLiteral("Arrange"));
+    moveCombo->setIconSize({32, 32});
     preview->setFixedSize(previewSize);
     for (int i = 0; i < 6; ++i) {
         auto* box = new QFrame(preview);
