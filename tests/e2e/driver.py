@@ -129,6 +129,15 @@ class Tour:
                 return None
         return self.wait_until(raised, f'the window "{title}"')
 
+    def dialog(self, title):
+        """Waits for the dialog of exactly that title, brings it to the front and gives it as a part to look within."""
+        self.window(f"^{re.escape(title)}$")
+        return self.wait_until(lambda: self._shown_window(title), f'the dialog "{title}"')
+
+    def _shown_window(self, title):
+        root = reader.program(self._process.pid)
+        return next((part for part in root.children if part.name == title and part.has("showing")), None)
+
     def windows(self):
         """The titles of all windows that show."""
         return [self.desk.run("xdotool", "getwindowname", number, check=False).strip()
@@ -236,11 +245,16 @@ class Tour:
         self.click(self.find("push button", heading))
         self.click(self.find("push button", line, within=self.find("frame", heading)))
 
-    def answer(self, word):
-        """Presses the button with that word and waits until its dialog has gone."""
-        button = self.find("push button", word)
-        self.click(button)
-        self.wait_until(lambda: not self.all("push button", word), f'the dialog with "{word}" to go')
+    def answer(self, title, word):
+        """Presses the button with that word in the dialog of that title, and waits until it has gone."""
+        self.click(self.find("push button", word, within=self.dialog(title)))
+        self.wait_until(lambda: self._shown_window(title) is None, f'the dialog "{title}" to go')
+
+    def pick(self, box, line):
+        """Chooses a line of a drop-down list."""
+        self.click(box)
+        self.click(self.find("list item", line, within=box))
+        self.wait_until(lambda: box.name == line or not self.all("list item", within=box), f'the list to close on "{line}"')
 
     # Its databases
 

@@ -43,7 +43,7 @@ with Tour("open") as tour:
     before = tour.contents(tour.program / "samples")
     tour.start()
     tour.begin_with("Open an existing Database")
-    tour.window("Open Database")
+    tour.dialog("Open Database")
     stands_in(tour, "samples")
     tour.find("check box", "Little Monsters, database")
     tour.picture("samples")
@@ -56,7 +56,7 @@ with Tour("open") as tour:
 
     # Up to the computer, and down again through the home folder
     tour.choose("File", "Open...")
-    tour.window("Open Database")
+    tour.dialog("Open Database")
     stands_in(tour, "samples")
     desk = tour.desk.folder
     walk_up(tour, ["Tallymoor", desk.name, desk.parent.name, "(COMPUTER)", "My Computer"])
@@ -70,16 +70,16 @@ with Tour("open") as tour:
     enter(tour, "(COMPUTER)", "drive")
     stands_in(tour, "(COMPUTER)")
     tour.picture("root")
-    tour.answer("Cancel")
+    tour.answer("Open Database", "Cancel")
 
     # By a click and OK
     tour.choose("File", "Open...")
-    tour.window("Open Database")
+    tour.dialog("Open Database")
     chosen = tour.find("text", "Chosen")
     tour.click(tour.find("check box", "Amazing Animals, database"))
     tour.wait_until(lambda: chosen.text == "Amazing Animals", "the animals to be chosen")
     tour.picture("chosen")
-    tour.answer("OK")
+    tour.answer("Open Database", "OK")
     tour.window("Amazing Animals - 24 Card\\(s\\)")
 
     # Along the menu and back
