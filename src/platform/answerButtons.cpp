@@ -59,6 +59,8 @@ void AnswerButtons::showFrame(int number)
 AnswerDialog::AnswerDialog(AnswerButtons* buttons)
     : answers(buttons)
 {
+    // A minimised dialog leaves a dead main window; one as large as the screen tears its parts apart.
+    setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowCloseButtonHint);
     answers->setParent(this);
 }
 
