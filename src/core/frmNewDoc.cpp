@@ -14,6 +14,7 @@
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QIcon>
+#include <QKeyEvent>
 #include <QVBoxLayout>
 
 namespace {
@@ -127,6 +128,9 @@ bool frmNewDoc::eventFilter(QObject* watched, QEvent* event)
         option->click();
     else if (event->type() == QEvent::MouseButtonDblClick)
         answers->ok->click();
+    else if (event->type() == QEvent::KeyPress &&
+             static_cast<QKeyEvent*>(event)->matches(QKeySequence::InsertParagraphSeparator))
+        option->click(); // Return, which presses OK next, means the option that the arrows have framed
     return false;
 }
 
