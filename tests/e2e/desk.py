@@ -116,10 +116,10 @@ class Desk:
             raise Failed(f"{' '.join(command)}: {result.stdout.strip()}")
         return result.stdout
 
-    def picture(self, path):
-        """Takes a picture of the whole screen."""
+    def picture(self, path, window="root"):
+        """Takes a picture of the whole screen, or of a window with its frame."""
         path.parent.mkdir(parents=True, exist_ok=True)
-        self.run("import", "-window", "root", str(path))
+        self.run("import", "-frame", "-window", window, str(path))
 
     def close(self):
         for process in reversed(self._processes):

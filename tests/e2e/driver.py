@@ -129,6 +129,13 @@ class Tour:
                 return None
         return self.wait_until(raised, f'the window "{title}"')
 
+    def board(self):
+        return self.find("list", "Board")
+
+    def card(self, label):
+        """The card with that label on the board."""
+        return self.find("list item", label, within=self.board())
+
     def dialog(self, title):
         """Waits for the dialog of exactly that title, brings it to the front and gives it as a part to look within."""
         self.window(f"^{re.escape(title)}$")
@@ -256,6 +263,11 @@ class Tour:
         self.click(self.find("list item", line, within=box))
         self.wait_until(lambda: box.name == line or not self.all("list item", within=box), f'the list to close on "{line}"')
 
+    def drag_onto(self, card, target):
+        """Drags a card onto a part of the board."""
+        (x, y), (to_x, to_y) = card.centre, target.centre
+        self.drag(card, by=(to_x - x, to_y - y))
+
     # Its databases
 
     def databases(self):
@@ -277,10 +289,10 @@ class Tour:
 
     # What came of it
 
-    def picture(self, name):
-        """Takes a picture of the screen, numbered in the order of the tour."""
+    def picture(self, name, of="root"):
+        """Takes a picture of the screen, or of the window with that title, numbered in the order of the tour."""
         self._pictures_taken += 1
-        self.desk.picture(self.pictures / f"{self._pictures_taken:02}-{name}.png")
+        self.desk.picture(self.pictures / f"{self._pictures_taken:02}-{name}.png", of if of == "root" else self.window(of))
 
     def listen(self):
         """An ear at the speaker, for a with statement."""
