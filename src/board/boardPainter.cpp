@@ -106,6 +106,8 @@ QRect wholePixels(const BoardShape& shape) { return roundedRect(shape); }
 void paintBoard(QPainter& painter, const QRect& damage, const BoardLook& look)
 {
     paintBackground(painter, damage);
+    if (session.tablePanel.visible)
+        return; // it lies over all but a hair's breadth below the band
     painter.setRenderHint(QPainter::Antialiasing);
     paintShapes(painter, look);
     paintBin(painter, look);
