@@ -29,15 +29,22 @@ QFont labelFont()
     return font;
 }
 
-/// A white surface of the face's measures, in as many pixels as the screen has for them.
-QImage blankFace(const QSize& size)
+/// The face before its label is printed, in as many pixels as the screen has for these measures: the picture,
+/// or white for a strip.
+QImage faceWithoutLabel(const QSize& size)
 {
     const double ratio = desktop.pixelRatio();
-    QImage face((QSizeF(size) * ratio).toSize(), QImage::Format_RGB32);
+    const QSize pixels = (QSizeF(size) * ratio).toSize();
+    QImage face;
+    if (session.cardSize == stripSize) {
+        face = QImage(pixels, QImage::Format_RGB32);
+        face.fill(Qt::white);
+    } else {
+        face = session.Picture1.shown().scaled(pixels, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    }
     face.setDevicePixelRatio(ratio);
     face.setDotsPerMeterX(dotsPerMetre);
     face.setDotsPerMeterY(dotsPerMetre);
-    face.fill(Qt::white);
     return face;
 }
 
@@ -47,17 +54,14 @@ void print(QPainter& painter, const QPointF& corner, const QColor& ink, const QS
     painter.drawText(corner + QPointF(0, painter.fontMetrics().ascent()), text);
 }
 
-void drawStrip(QPainter& painter, const QString& label)
+void printLabel(QPainter& painter, const QString& label)
 {
-    painter.fillRect(0, 0, 1, 1, Qt::blue);
-    print(painter, {1, 1}, Qt::black, label);
-}
-
-void drawPictureWithLabel(QPainter& painter, const QImage& picture, const QString& label)
-{
-    painter.drawImage(QPoint(), picture);
-    print(painter, {1, 1}, Qt::black, label); // the shadow
-    print(painter, {0, 0}, colourOf(session.ColText), label);
+    const bool strip = session.cardSize == stripSize;
+    if (strip)
+        painter.fillRect(0, 0, 1, 1, Qt::blue);
+    print(painter, {1, 1}, Qt::black, label); // on a picture the shadow
+    if (!strip)
+        print(painter, {0, 0}, colourOf(session.ColText), label);
 }
 
 } // namespace
@@ -66,18 +70,11 @@ void drawCardFace(int card)
 {
     const QString label = session.cardValue[card][1];
     const QSize size(session.shrinkdummy.width, session.shrinkdummy.height);
-    QImage face = blankFace(size);
+    QImage face = faceWithoutLabel(size);
     {
         QPainter painter(&face);
         painter.setFont(labelFont());
-        if (session.cardSize == stripSize) {
-            drawStrip(painter, label);
-        } else {
-            QImage picture =
-                session.Picture1.shown().scaled(face.size(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
-            picture.setDevicePixelRatio(face.devicePixelRatio());
-            drawPictureWithLabel(painter, picture, label);
-        }
+        printLabel(painter, label);
     }
     session.shrinkdummy.image = face;
 

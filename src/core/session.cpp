@@ -16,7 +16,10 @@ Session::Session()
 
 QImage WorkPicture::shown() const
 {
-    QImage surface(width, height, QImage::Format_RGB32);
+    const QRect area(0, 0, width, height);
+    if (image.format() == QImage::Format_RGB32 && image.rect().contains(area)) // nothing to paint on
+        return image.copy(area);
+    QImage surface(area.size(), QImage::Format_RGB32);
     surface.fill(Qt::white);
     QPainter(&surface).drawImage(QPoint(), image);
     return surface;
