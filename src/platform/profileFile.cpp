@@ -201,9 +201,11 @@ bool writeProfile(const QString& section, const QString& key, const QString& val
         const ProfileLock lock(path);
         if (!lock.isHeld())
             return;
-        QStringList lines = linesOfFile(path);
+        const QStringList before = linesOfFile(path);
+        QStringList lines = before;
         setValue(lines, section, key, QString(value).replace(breaks, QStringLiteral(" ")));
-        replaceFile(path, encodeText(lines.join(QString())));
+        if (lines != before) // else there is no need to wait for the disk
+            replaceFile(path, encodeText(lines.join(QString())));
         sweepLeftovers(QFileInfo(path).path());
         written = true;
     }});
