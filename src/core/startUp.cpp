@@ -33,6 +33,7 @@ int runTallymoor()
 {
     dressApplication();
     installDesktop();
+    askForPrintersEarly();
     QApplication::setQuitOnLastWindowClosed(false); // shutDown() ends the program, in order
     QTimer::singleShot(0, [] { endingOnError(startUp); });
     const int result = QApplication::exec();

@@ -1,11 +1,21 @@
 #include "platform/picture.h"
 
 #include <QGuiApplication>
-#include <QIcon>
+#include <QPainter>
+#include <QSvgRenderer>
 
 QPixmap picture(const QString& name, QSize size)
 {
-    return QIcon(picturePath(name)).pixmap(size, qGuiApp->devicePixelRatio());
+    const double ratio = qGuiApp->devicePixelRatio();
+    QSvgRenderer drawing(picturePath(name));
+    QImage made(drawing.defaultSize().scaled(size * ratio, Qt::KeepAspectRatio),
+                QImage::Format_ARGB32_Premultiplied);
+    made.fill(Qt::transparent);
+    QPainter painter(&made);
+    drawing.render(&painter);
+    painter.end();
+    made.setDevicePixelRatio(ratio);
+    return QPixmap::fromImage(std::move(made));
 }
 
 QString picturePath(const QString& name)

@@ -19,6 +19,9 @@
 #include <QStandardPaths>
 #include <QUrl>
 
+#include <future>
+#include <utility>
+
 namespace {
 
 constexpr double twipsPerInch = 1440;
@@ -78,6 +81,21 @@ QString chooseFile(const QString& caption, const QString& startFolder, const QSt
     return chosenIn(dialog);
 }
 
+// What askForPrintersEarly() asked for; each answer is given once.
+std::shared_future<QStringList> earlyNames;
+std::future<QString> earlyDefault;
+
+QStringList printerNames()
+{
+    const auto asked = std::exchange(earlyNames, {});
+    return asked.valid() ? asked.get() : QPrinterInfo::availablePrinterNames();
+}
+
+QString defaultPrinterName()
+{
+    return earlyDefault.valid() ? earlyDefault.get() : QPrinterInfo::defaultPrinterName();
+}
+
 void openDocument(const QString& path)
 {
     if (!QFileInfo::exists(path) || !QDesktopServices::openUrl(QUrl::fromLocalFile(path)))
@@ -125,8 +143,8 @@ void installDesktop()
     desktop.copyText = [](const QString& text) { QGuiApplication::clipboard()->setText(text); };
     desktop.copyPicture = [](const QImage& image) { QGuiApplication::clipboard()->setImage(image); };
 
-    desktop.printerNames = [] { return QPrinterInfo::availablePrinterNames(); };
-    desktop.defaultPrinterName = [] { return QPrinterInfo::defaultPrinterName(); };
+    desktop.printerNames = printerNames;
+    desktop.defaultPrinterName = defaultPrinterName;
 
     desktop.setBusyPointer = setBusyPointer;
     desktop.pixelRatio = [] { return qGuiApp->devicePixelRatio(); };
@@ -143,4 +161,13 @@ void installDesktop()
         return QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
     };
     desktop.volumes = drivesOfComputer;
+}
+
+void askForPrintersEarly()
+{
+    earlyNames = std::async(std::launch::async, [] { return QPrinterInfo::availablePrinterNames(); });
+    earlyDefault = std::async(std::launch::async, [names = earlyNames] {
+        names.wait(); // the printing system is asked by one thread at a time
+        return QPrinterInfo::defaultPrinterName();
+    });
 }

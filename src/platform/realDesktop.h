@@ -3,3 +3,7 @@
 
 /// Sets every function of `desktop`. Needs the QApplication.
 void installDesktop();
+
+/// Has the printing system asked beside everything else, since it may take its time; the first to ask
+/// `desktop` for printers then gets that answer.
+void askForPrintersEarly();
