@@ -1,7 +1,9 @@
 // Dragging a card over a full board, on a fast folder and on one that takes 200 ms for every call.
+#include "bareWidget.h"
 #include "fullFolder.h"
 
 #include "board/boardWidget.h"
+#include "board/refresh.h"
 #include "core/Form1.h"
 #include "core/session.h"
 #include "platform/forms.h"
@@ -13,12 +15,13 @@
 #include <QCoreApplication>
 #include <QElapsedTimer>
 #include <QMouseEvent>
-#include <QPainter>
+#include <QTimer>
 
 namespace {
 
 constexpr int moves = 1000;
 constexpr int slowCall = 200; // ms
+constexpr int manyTicks = 10; // ms
 
 void send(QWidget& board, QEvent::Type type, QPointF at, Qt::MouseButton button, Qt::MouseButtons held)
 {
@@ -45,15 +48,6 @@ double drag(QWidget& board)
     return longest;
 }
 
-/// The least that can be shown: a coloured rectangle moves over a bare widget.
-class BareWidget : public QWidget {
-public:
-    QRect card{15, 40, 82, 62};
-
-protected:
-    void paintEvent(QPaintEvent*) override { QPainter(this).fillRect(card, Qt::blue); }
-};
-
 void dragFloor(benchmark::State& state)
 {
     BareWidget board;
@@ -62,9 +56,7 @@ void dragFloor(benchmark::State& state)
     QCoreApplication::processEvents();
     for (auto _ : state) {
         for (int i = 1; i <= moves; ++i) {
-            const QRect before = board.card;
-            board.card.moveTo(15 + int(i * 0.9), 40 + int(i * 0.6));
-            board.update(before | board.card);
+            board.moveCard({15 + int(i * 0.9), 40 + int(i * 0.6)});
             QCoreApplication::processEvents();
         }
     }
@@ -87,6 +79,27 @@ void dragOver(benchmark::State& state, const QString& folder)
 
 void dragOverFullBoard(benchmark::State& state) { dragOver(state, fullFolder()); }
 BENCHMARK(dragOverFullBoard)->Unit(benchmark::kMillisecond);
+
+/// With ticks of the refresh far closer than they are, so that many fall into each drag.
+void dragDuringRefresh(benchmark::State& state)
+{
+    startFresh();
+    openChosenFolder(fullFolder());
+    setRefresh(QStringLiteral("On"));
+    const int interval = refreshTimer().interval();
+    refreshTimer().setInterval(manyTicks);
+    long ticks = 0;
+    const auto counting = QObject::connect(&refreshTimer(), &QTimer::timeout, [&ticks] { ++ticks; });
+    double longest = 0;
+    for (auto _ : state)
+        longest = std::max(longest, drag(*form<Form1>().board));
+    QObject::disconnect(counting);
+    refreshTimer().stop();
+    refreshTimer().setInterval(interval);
+    state.counters["longest move, ms"] = longest;
+    state.counters["ticks a drag"] = double(ticks) / double(state.iterations());
+}
+BENCHMARK(dragDuringRefresh)->Unit(benchmark::kMillisecond);
 
 void dragOnSlowFolder(benchmark::State& state)
 {

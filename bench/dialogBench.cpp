@@ -1,0 +1,87 @@
+// The file dialog on a folder of 5,000 entries, until its eight icons tell what they stand for.
+#include "fullFolder.h"
+
+#include "platform/forms.h"
+#include "store/FileForm.h"
+
+#include <benchmark/benchmark.h>
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+#include <QToolButton>
+
+#include <algorithm>
+#include <filesystem>
+
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr int entries = 5000;
+const QString description = QStringLiteral("/db-info.tdb");
+
+QString nameOf(int entry) { return QStringLiteral("Folder %1").arg(entry, 4, 10, QLatin1Char('0')); }
+
+/// As many folders; the first eight, which are in view, are databases.
+QString crowdedFolder()
+{
+    static const QTemporaryDir place;
+    static bool filled = false;
+    for (int entry = 0; !filled && entry < entries; ++entry) {
+        const QString path = place.filePath(nameOf(entry));
+        QFile file(path + description);
+        if (!QDir().mkdir(path) || (entry < FolderWalk::slotCount && !file.open(QIODevice::WriteOnly)))
+            qFatal("The benchmark's folder can't be filled");
+    }
+    filled = true;
+    return place.path();
+}
+
+/// Listing and sorting the same names, and a look into the first eight.
+void dialogFloor(benchmark::State& state)
+{
+    const QString folder = crowdedFolder();
+    for (auto _ : state) {
+        QStringList names;
+        for (const auto& entry : fs::directory_iterator(folder.toStdString())) {
+            if (entry.is_directory())
+                names.append(QString::fromStdString(entry.path().filename()));
+        }
+        names.sort(Qt::CaseInsensitive);
+        for (int entry = 0; entry < FolderWalk::slotCount; ++entry)
+            benchmark::DoNotOptimize(
+                fs::exists((folder + QLatin1Char('/') + names[entry] + description).toStdString()));
+    }
+}
+BENCHMARK(dialogFloor)->Unit(benchmark::kMillisecond)->UseRealTime();
+
+bool allKnown(const FileForm& dialog)
+{
+    return std::all_of(dialog.iconBox.begin(), dialog.iconBox.end(), [](const QToolButton* icon) {
+        return icon->accessibleName().endsWith(QLatin1String("database"));
+    });
+}
+
+void fillDialog(benchmark::State& state)
+{
+    const QString folder = crowdedFolder();
+    startFresh();
+    for (auto _ : state) {
+        state.PauseTiming();
+        unload<FileForm>();
+        auto& dialog = form<FileForm>();
+        dialog.show();
+        QCoreApplication::processEvents();
+        state.ResumeTiming();
+        dialog.choose(QStringLiteral("Open Database"), folder, QStringLiteral("*.none"));
+        while (!allKnown(dialog))
+            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+        QCoreApplication::processEvents();
+    }
+    unload<FileForm>();
+}
+BENCHMARK(fillDialog)->Unit(benchmark::kMillisecond)->UseRealTime();
+
+} // namespace
