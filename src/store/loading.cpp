@@ -5,6 +5,7 @@
 #include "core/screen.h"
 #include "core/session.h"
 #include "core/title.h"
+#include "platform/desktop.h"
 #include "platform/errors.h"
 #include "platform/wholeFile.h"
 #include "store/cardFiles.h"
@@ -66,12 +67,14 @@ struct LoadedFace {
     int height;
     int cardSize;
     QString colour;
+    double pixelRatio;
     QImage face;
 
     bool madeAs(const LoadedFace& other) const
     {
         return label == other.label && width == other.width && height == other.height &&
-               cardSize == other.cardSize && colour == other.colour && picture == other.picture;
+               cardSize == other.cardSize && colour == other.colour && pixelRatio == other.pixelRatio &&
+               picture == other.picture;
     }
 };
 
@@ -104,6 +107,7 @@ void FaceLoader::load(int card)
                             session.shrinkdummy.height,
                             session.cardSize,
                             session.ColText,
+                            desktop.pixelRatio(),
                             {}};
     const QString& id = session.cardId[card];
     const auto known = lastFaces.constFind(id);

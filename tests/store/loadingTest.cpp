@@ -95,6 +95,10 @@ TEST_F(Loading, AReloadEndsAsAFullLoadWhateverWasPassedOver)
     loadAllCards();
     EXPECT_FALSE(session.box[1].picture.isNull());
     EXPECT_EQ(boardDrawn, 2);
+
+    desktop.pixelRatio = [] { return 2.0; }; // the window has gone to a sharper screen
+    loadAllCards();
+    EXPECT_EQ(session.box[1].picture.width(), 2 * session.shrinkdummy.width);
 }
 
 TEST_F(Loading, AMissingPictureIsToldAtEachLoadAndTheFaceShowsTheOneBefore)
