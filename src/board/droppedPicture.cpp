@@ -1,6 +1,7 @@
 #include "board/droppedPicture.h"
 
 #include "core/session.h"
+#include "platform/stretching.h"
 
 #include <QPainter>
 
@@ -10,7 +11,7 @@ void paintDroppedPicture(const QImage& dropped)
     QImage painted(box.width, box.height, QImage::Format_RGB32);
     painted.fill(Qt::white); // transparent pictures lie on paper
     QPainter painter(&painted);
-    painter.drawImage(0, 0, dropped.scaled(painted.size(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
+    painter.drawImage(0, 0, stretched(dropped, painted.size()));
     painter.end();
     box.image = painted;
 }

@@ -5,6 +5,7 @@
 #include "platform/colour.h"
 #include "platform/desktop.h"
 #include "platform/fonts.h"
+#include "platform/stretching.h"
 #include "store/cardFiles.h"
 
 #include <QFontMetricsF>
@@ -40,7 +41,7 @@ QImage faceWithoutLabel(const QSize& size)
         face = QImage(pixels, QImage::Format_RGB32);
         face.fill(Qt::white);
     } else {
-        face = session.Picture1.shown().scaled(pixels, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+        face = stretched(session.Picture1.shown(), pixels);
     }
     face.setDevicePixelRatio(ratio);
     face.setDotsPerMeterX(dotsPerMetre);

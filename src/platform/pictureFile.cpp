@@ -9,7 +9,6 @@
 #include <QtEndian>
 
 #include <algorithm>
-#include <cstring>
 
 namespace {
 
@@ -114,15 +113,6 @@ void showWhenAllTransparent(QImage& picture)
     picture.reinterpretAsFormat(QImage::Format_RGB32);
 }
 
-/// QImage::fill() leaves the processor in a state in which the next smooth scaling takes three times as long.
-void whiten(QImage& picture)
-{
-    if (picture.depth() >= 24)
-        std::memset(picture.bits(), 0xFF, size_t(picture.sizeInBytes()));
-    else
-        picture.fill(Qt::white);
-}
-
 } // namespace
 
 QImage readPicture(const QString& path) { return decodePicture(readWholeFile(path)); }
@@ -143,7 +133,7 @@ QImage decodePicture(const QByteArray& bytes)
     const QSize size = reader.size();
     if (size.isValid() && reader.imageFormat() != QImage::Format_Invalid &&
         QImageIOHandler::allocateImage(size, reader.imageFormat(), &picture))
-        whiten(picture);
+        picture.fill(Qt::white);
     if (!reader.read(&picture) || picture.isNull())
         throw RuntimeError(invalidPicture);
     resolvePalette(picture);

@@ -1,6 +1,7 @@
 #include "store/folderWalk.h"
 
 #include "platform/pictureFile.h"
+#include "platform/stretching.h"
 #include "store/paths.h"
 
 #include <QDir>
@@ -222,10 +223,7 @@ void FolderWalk::askAbout(const WalkItem& item)
             WalkItem news = item;
             news.certain = true;
             if (item.tag == QLatin1String("File"))
-                ignoringErrors({[&] {
-                    news.picture =
-                        readPicture(item.path).scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
-                }});
+                ignoringErrors({[&] { news.picture = stretched(readPicture(item.path), size); }});
             else if (holdsDatabase(item.path))
                 news.tag = QStringLiteral("tdb");
             return news;
