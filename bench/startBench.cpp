@@ -9,6 +9,7 @@
 
 #include <QApplication>
 #include <QDialog>
+#include <QLabel>
 #include <QProcess>
 #include <QTimer>
 
@@ -31,9 +32,8 @@ public:
 
 EndWhenPainted endWhenPainted;
 
-void showBareWindow()
+void show(QWidget* window)
 {
-    auto* window = new QWidget;
     window->installEventFilter(&endWhenPainted);
     window->show();
     QApplication::exec();
@@ -65,6 +65,10 @@ void startProcess(benchmark::State& state, const QString& what)
 void startFloor(benchmark::State& state) { startProcess(state, QStringLiteral("bare")); }
 BENCHMARK(startFloor)->Unit(benchmark::kMillisecond)->UseRealTime();
 
+/// No floor of ours, but tells what the first text alone takes.
+void startToOneWord(benchmark::State& state) { startProcess(state, QStringLiteral("word")); }
+BENCHMARK(startToOneWord)->Unit(benchmark::kMillisecond)->UseRealTime();
+
 void startToWelcome(benchmark::State& state) { startProcess(state, QStringLiteral("welcome")); }
 BENCHMARK(startToWelcome)->Unit(benchmark::kMillisecond)->UseRealTime();
 
@@ -74,7 +78,9 @@ void startAndEnd(int argc, char** argv, const char* what)
 {
     const QApplication application(argc, argv);
     if (qstrcmp(what, "bare") == 0)
-        showBareWindow();
+        show(new QWidget);
+    if (qstrcmp(what, "word") == 0)
+        show(new QLabel(QStringLiteral("Welcome")));
     modalLoop = passSplashAndEndAtWelcome;
     runTallymoor();
     std::_Exit(1); // the welcome dialog never came
