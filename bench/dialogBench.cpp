@@ -8,6 +8,7 @@
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QEvent>
 #include <QFile>
 #include <QTemporaryDir>
 #include <QToolButton>
@@ -71,6 +72,7 @@ void fillDialog(benchmark::State& state)
     for (auto _ : state) {
         state.PauseTiming();
         unload<FileForm>();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         auto& dialog = form<FileForm>();
         dialog.show();
         QCoreApplication::processEvents();

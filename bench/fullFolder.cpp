@@ -8,7 +8,9 @@
 #include "platform/realDesktop.h"
 #include "store/loading.h"
 
+#include <QCoreApplication>
 #include <QDir>
+#include <QEvent>
 #include <QFile>
 #include <QImage>
 #include <QTemporaryDir>
@@ -75,6 +77,8 @@ void startFresh()
 {
     static const QTemporaryDir settings;
     unloadAllForms();
+    QCoreApplication::sendPostedEvents(nullptr,
+                                       QEvent::DeferredDelete); // there is no event loop to come round
     installDesktop();
     desktop.programFolder = [] { return settings.path(); };
     desktop.showMessage = [](MessageIcon, const QString&, const QString& text) {
