@@ -21,9 +21,8 @@
 namespace {
 
 constexpr int rowsInColumn = 6;
-constexpr int partsOfRow = 3;   // label, box, button
-constexpr int nameWidth = 120;  // of a field's label
-constexpr int valueWidth = 200; // of a box; the widest value fits in
+constexpr int partsOfRow = 3;  // label, box, button
+constexpr int nameWidth = 140; // of a field's label
 constexpr QSize monitorSize(193, 150);
 constexpr QPoint screenOfMonitor(16, 14);
 constexpr int answerHeight = 36; // of a line of the list
@@ -121,7 +120,6 @@ void editCard::addFieldRow(QGridLayout& grid, int f)
     fieldName[f]->setMinimumWidth(nameWidth);
     fieldName[f]->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     DataBox[f] = element(new QLineEdit, "DataBox", f);
-    DataBox[f]->setMinimumWidth(valueWidth);
     fieldName[f]->setBuddy(DataBox[f]);
     pullDownBut[f] =
         element(new QPushButton(QIcon(picturePath(QStringLiteral("pullDown"))), QString()), "pullDownBut", f);

@@ -123,6 +123,9 @@ TEST_F(EditingCards, TwelveFieldsStandInTwoColumnsOfSixThatAllFitASmallScreen)
         EXPECT_TRUE(editor.FTab1->isVisible());
         EXPECT_LE(editor.height(), 576);
         EXPECT_LE(editor.width(), 960);
+        for (const QPushButton* button : editor.findChildren<QPushButton*>())
+            EXPECT_TRUE(!button->isVisible() || button->height() >= button->sizeHint().height())
+                << button->objectName().toStdString() << " is squeezed";
         for (int f = 1; f <= 6; ++f) {
             EXPECT_EQ(editor.DataBox[f]->x(), editor.DataBox[1]->x());
             EXPECT_EQ(editor.DataBox[f]->y(), editor.DataBox[f + 6]->y());
