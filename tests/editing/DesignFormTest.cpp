@@ -1,6 +1,5 @@
 #include "editing/DesignForm.h"
 
-#include "editing/FieldForm.h"
 #include "editing/designCommand.h"
 #include "editing/frmRemind.h"
 #include "platform/fittedLabel.h"
@@ -11,7 +10,6 @@
 
 #include <QCheckBox>
 #include <QLabel>
-#include <QLineEdit>
 #include <QRadioButton>
 #include <QTest>
 
@@ -99,36 +97,6 @@ TEST_F(Design, TheNumberOfFieldsStaysWithinOneAndTwelveAndCancelKeepsIt)
     EXPECT_FALSE(isLoaded<DesignForm>());
     EXPECT_EQ(session.numFields, 11);
     EXPECT_TRUE(description().startsWith(" 11 \r\n"));
-}
-
-TEST_F(Design, EditingAFieldChangesItsRowOnlyAfterOk)
-{
-    session.fieldName[2] = QStringLiteral("Legs");
-    const QString name = QStringLiteral("Number of legs, wings and feelers");
-    const auto answering = [name](Qt::Key key) {
-        return [name, key](QDialog& dialog) {
-            auto& field = dynamic_cast<FieldForm&>(dialog);
-            EXPECT_EQ(field.fieldNameBox->text(), QStringLiteral("Legs"));
-            field.fieldNameBox->setText(name);
-            field.UseList->setChecked(true);
-            QTest::keyClick(&field, key);
-        };
-    };
-    design([&](DesignForm& dialog) {
-        recorded.dialogSteps.push_front(answering(Qt::Key_Escape));
-        press(dialog.EditFieldBut[2]);
-        EXPECT_EQ(dialog.fieldName[2]->text(), QStringLiteral("Legs"));
-        EXPECT_FALSE(dialog.pullDownBut[2]->isVisible());
-
-        recorded.dialogSteps.push_front(answering(Qt::Key_Return));
-        press(dialog.EditFieldBut[2]);
-        EXPECT_EQ(dialog.fieldName[2]->text(), name);
-        EXPECT_TRUE(dialog.pullDownBut[2]->isVisible());
-        EXPECT_TRUE(dialog.EditFieldBut[2]->accessibleName().contains(name));
-        press(dialog.spinDown);
-    });
-    EXPECT_EQ(session.numFields, 2);
-    EXPECT_EQ(description().count('\n'), 3 + 3 + 15 + 2);
 }
 
 TEST_F(Design, TwoQuickClicksOpenOneDialog)

@@ -174,19 +174,6 @@ TEST_F(EditingCards, FiltersWhatIsTyped)
     openCardEditor(1);
 }
 
-TEST_F(EditingCards, OKWritesRecordAndPictureAndShowsThemOnTheBoard)
-{
-    pupil([](editCard& editor) {
-        type(editor, 1, QStringLiteral("Beetle"));
-        QTest::keyClick(editor.DataBox[1], Qt::Key_Return);
-    });
-    openCardEditor(1);
-    EXPECT_EQ(session.dialogResult, QStringLiteral("OK"));
-    EXPECT_EQ(record("AAAAAAAA"), "\"01000100\"\r\n\"Beetle\"\r\n\"6\"\r\n\"red\"\r\n");
-    EXPECT_EQ(session.cardValue[1][1], QStringLiteral("Beetle"));
-    EXPECT_EQ(session.box[1].tooltip, QStringLiteral("Beetle"));
-}
-
 TEST_F(EditingCards, EscapeCancelsAndTheFrameAnswersNothing)
 {
     const QByteArray before = record("AAAAAAAA");

@@ -22,17 +22,6 @@ TEST_F(FieldDefinitions, WithoutAListKeepTheOldAnswersOutOfSight)
     EXPECT_EQ(fieldDefinition(2).type, QStringLiteral("123")) << "only the exact word is text";
 }
 
-TEST_F(FieldDefinitions, KeysOfANumberListAreDigitsAndTheSlash)
-{
-    QString taken;
-    for (char16_t key = 0; key < 0x250; ++key) {
-        if (answerTakesKey(QStringLiteral("123"), key))
-            taken += QChar(key);
-        EXPECT_TRUE(answerTakesKey(QStringLiteral("Abc"), key));
-    }
-    EXPECT_EQ(taken, QStringLiteral("/0123456789"));
-}
-
 // What a name becomes on the disk, and what the next workstation reads.
 TEST_F(FieldDefinitions, SpecialTextsHaveOneFateOnTheDisk)
 {
