@@ -1,4 +1,5 @@
-"""Two pupils look at one folder: what one of them, or a third workstation, does is seen by both within a tick.
+"""Two pupils look at one folder: what one of them, or a third workstation, does is seen by both within a tick; so is
+what they delete.
 
 Then the folder goes away and comes back: one message, no card lost."""
 
@@ -38,6 +39,21 @@ def both_see(tour, copies, label, there):
     print(f'"{label}" {"seen" if there else "gone"} in both after {time.monotonic() - began:.1f} s')
 
 
+def delete_by_bin(tour, label, meanwhile=lambda: None):
+    """Drops the card in the bin and says Yes; something may happen while the question stands."""
+    tour.choose("Card", "Delete Card")
+    tour.drag_onto(tour.card(label), tour.find("push button", "Bin"))
+    tour.find("label", f"Delete {label} ?", within=tour.dialog("Delete Card"))
+    meanwhile()
+    tour.answer("Delete Card", "Yes")
+    tick_refresh(tour)  # choosing from the menu has ended it
+
+
+def remove(database, name):
+    for path in database.glob(f"{name}.*"):
+        path.unlink()
+
+
 def rewrite(record, old, new):
     """Changes a record as another workstation does: at one stroke."""
     draft = record.with_suffix(".draft")
@@ -66,8 +82,7 @@ with Tour("refresh") as tour:
     both_see(tour, copies, "Visitor", True)
     rewrite(database / f"{second}.tcd", second_label, "Renamed")
     both_see(tour, copies, "Renamed", True)
-    for ending in ("tcd", "bmp"):
-        (database / f"{first}.{ending}").unlink()
+    remove(database, first)
     both_see(tour, copies, first_label, False)
     tour.picture("changed")
 
@@ -81,6 +96,20 @@ with Tour("refresh") as tour:
     tour.wait_until(lambda: card(tour, "Changed"), "the held card's new label", WITHIN_A_TICK)
     tour.check(card(tour, "Changed").centre == (x + 300, y + 180), "the held card left the mouse")
     tour.desk.run("xdotool", "mouseup", "1")
+
+    # Each copy deletes a card; the one in the question goes, also when an earlier card's going shifts all numbers
+    (earlier, earlier_label), (_, early_label), (_, late_label) = names[2], names[-2], names[-1]
+    tour.turn_to(copies[0])
+    delete_by_bin(tour, early_label, meanwhile=lambda: remove(database, earlier))
+    both_see(tour, copies, early_label, False)
+    both_see(tour, copies, earlier_label, False)
+    delete_by_bin(tour, late_label)
+    both_see(tour, copies, late_label, False)
+    left = sorted(tour.card_labels(database).values())
+    for copy in copies:
+        tour.turn_to(copy)
+        tour.wait_until(lambda: sorted(part.name for part in tour.all("list item", within=tour.board())) == left,
+                        f"the cards {left}", WITHIN_A_TICK)
 
     # The folder goes away: one message, every card stays; it comes back and can be looked at again
     tour.turn_to(copies[0])
