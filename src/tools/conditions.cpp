@@ -12,12 +12,13 @@ struct TextWord {
     bool (*holds)(const QString& cardText, const QString& wanted);
 };
 
+// An empty value begins and ends every text. QString's own startsWith() denies that of a text never set.
 constexpr TextWord textWords[] = {
     {"is", [](const QString& c, const QString& v) { return c == v; }},
     {"is not", [](const QString& c, const QString& v) { return c != v; }},
     {"includes", [](const QString& c, const QString& v) { return c.contains(v); }},
-    {"starts with", [](const QString& c, const QString& v) { return c.startsWith(v); }},
-    {"ends with", [](const QString& c, const QString& v) { return c.endsWith(v); }},
+    {"starts with", [](const QString& c, const QString& v) { return c.left(v.size()) == v; }},
+    {"ends with", [](const QString& c, const QString& v) { return c.right(v.size()) == v; }},
     {"comes before", [](const QString& c, const QString& v) { return c < v; }},
     {"comes after", [](const QString& c, const QString& v) { return c > v; }},
 };
