@@ -18,8 +18,9 @@ double& place(int card, Axis axis)
 
 bool flyAlong(int card, Axis axis, double target)
 {
-    const double step = place(card, axis) > target ? -0.5 : 0.5;
     while (std::abs(target - place(card, axis)) > session.animationSpeed && !session.animationStopped) {
+        // Towards the target from wherever the card is by now: the pupil may have dragged it beyond.
+        const double step = place(card, axis) > target ? -0.5 : 0.5;
         place(card, axis) += session.animationSpeed * step;
         screen.redrawCard(card);
         if (session.animationSpeed == 0)

@@ -10,6 +10,7 @@
 
 #include <QPointF>
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 
@@ -72,9 +73,9 @@ void showVenn()
 void flyToRegion(int card, Counts& running, const Counts& counts)
 {
     const Region region = regionOf(card);
-    // A card that changed its region during the run, and came to one that was empty, stands where the region
-    // begins.
-    const double part = counts[region] == 0 ? 0 : double(running[region]) / counts[region];
+    // Cards that changed their region during the run may be more than were counted: they begin it again.
+    const int count = std::max(counts[region], 1);
+    const double part = double(running[region] % count) / count;
     const QPointF place = placeInRegion(region, part);
     ++running[region];
     moveCardTo(card, toInteger(place.x()), toInteger(place.y()));

@@ -1,0 +1,335 @@
+// Runs that are disturbed: while a card flies the pupil can use all the rest of the program, and does so here
+// at random. Each seed is another pupil; a failure tells what that one did.
+#include "tools/FrmSpeed.h"
+
+#include "board/boardWidget.h"
+#include "board/hand.h"
+#include "board/refresh.h"
+#include "core/Form1.h"
+#include "core/dispatch.h"
+#include "core/menu.h"
+#include "core/screen.h"
+#include "core/session.h"
+#include "core/shutDown.h"
+#include "platform/forms.h"
+#include "store/opening.h"
+#include "support/files.h"
+#include "tools/bin.h"
+#include "tools/findForm.h"
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDir>
+#include <QLineEdit>
+#include <QMouseEvent>
+#include <QPushButton>
+#include <QSlider>
+
+#include <cmath>
+#include <map>
+#include <random>
+
+namespace {
+
+constexpr int seeds = 300;
+constexpr int mostActions = 6;           // of one pupil
+constexpr int roundsBetweenActions = 40; // on average
+constexpr int roundsBetweenEvents = 16;
+constexpr int mostRounds = 30000; // a run with all its disturbances needs far fewer
+constexpr double farthest = 5000; // pixels; nothing sends a card as far from the board
+
+/// A database of strips, which have no pictures to read: a text and a number for each card.
+QString writeStrips(const QString& name, int cards)
+{
+    const QString folder = inTestFolder(name);
+    QDir().mkpath(folder);
+    putFile(folder + QStringLiteral("/db-info.tdb"),
+            " 2 \r\n 2 \r\n\"none\"\r\n\"Name\"\r\n\"Abc\"\r\nFalse\r\n\"Legs\"\r\n\"123\"\r\nFalse\r\nRW\r\n"
+            "VER=\"1.1.0\"\r\n");
+    for (int card = 1; card <= cards; ++card)
+        putFile(folder + QStringLiteral("/CARD%1.tcd").arg(card, 4, 10, QLatin1Char('0')),
+                QStringLiteral("\"01000200\"\r\n\"%1\"\r\n\"%2\"\r\n")
+                    .arg(QChar(char16_t(u'a' + card % 3)))
+                    .arg(card % 4)
+                    .toLatin1());
+    return folder;
+}
+
+class Pupil {
+public:
+    explicit Pupil(unsigned seed);
+
+    /// Runs one of the tools to its end.
+    void useATool();
+
+    void expectADefinedState() const;
+
+    static std::map<QString, int> timesDone; // by all pupils
+
+private:
+    struct Action {
+        const char* name;
+        void (Pupil::*take)();
+    };
+    static const std::vector<Action> actions;
+
+    int upTo(int end) { return int(chance() % unsigned(end)); }
+    bool oneIn(int many) { return upTo(many) == 0; }
+    QPointF somewhere() { return {double(upTo(640)), double(40 + upTo(360))}; }
+    int someCard() { return oneIn(2) || session.numCards == 0 ? flying : 1 + upTo(session.numCards); }
+
+    void round();
+    void wait();
+    void act();
+    void answer(QDialog& dialog);
+    void fillIn(QDialog& dialog);
+    void mouse(QEvent::Type type, QPointF point);
+
+    void chooseFromTheMenu();
+    void dragACard();
+    void pressACard();
+    void moveTheMouse();
+    void letGo();
+    void openAnother();
+    void closeTheWindow();
+    void deleteTheFlyingCard();
+    void dropTheFlyingCardOnTheBin();
+    void refresh();
+    void changePace();
+    void closeTheSpeedWindow();
+    void changeMode();
+    void resize();
+    void openTheEditor();
+
+    std::mt19937 chance;
+    QStringList folders;
+    QStringList done;
+    int rounds = 0;
+    int actionsLeft = mostActions;
+    int flying = 1;
+    qsizetype messagesAtEnd = -1; // when the window was closed
+};
+
+std::map<QString, int> Pupil::timesDone;
+
+const std::vector<Pupil::Action> Pupil::actions = {
+    {"menu", &Pupil::chooseFromTheMenu},
+    {"drag", &Pupil::dragACard},
+    {"press", &Pupil::pressACard},
+    {"move", &Pupil::moveTheMouse},
+    {"let go", &Pupil::letGo},
+    {"another tool", &Pupil::useATool},
+    {"another database", &Pupil::openAnother},
+    {"close", &Pupil::closeTheWindow},
+    {"delete", &Pupil::deleteTheFlyingCard},
+    {"bin", &Pupil::dropTheFlyingCardOnTheBin},
+    {"refresh", &Pupil::refresh},
+    {"pace", &Pupil::changePace},
+    {"stop", &Pupil::closeTheSpeedWindow},
+    {"mode", &Pupil::changeMode},
+    {"resize", &Pupil::resize},
+    {"editor", &Pupil::openTheEditor},
+};
+
+Pupil::Pupil(unsigned seed)
+    : chance(seed)
+{
+    auto& window = form<Form1>();
+    window.resize(640, 400);
+    window.show();
+    folders = {writeStrips(QStringLiteral("five"), 5), writeStrips(QStringLiteral("two"), 2),
+               writeStrips(QStringLiteral("none"), 0), writeStrips(QStringLiteral("nine"), 9)};
+    openChosenFolder(folders[0]);
+
+    desktop.yield = [this] { round(); };
+    desktop.waitForEvents = [this] { wait(); };
+    desktop.ask = [this](const QString&, const QString&) { return oneIn(2); };
+    modalLoop = [this](QDialog& dialog) { answer(dialog); };
+    screen.redrawCard = [this, redraw = screen.redrawCard](int card) {
+        flying = card;
+        redraw(card);
+    };
+    screen.showSpeedWindow = [show = screen.showSpeedWindow] {
+        show();
+        form<FrmSpeed>().findChild<QSlider*>()->setValue(9);
+    };
+}
+
+void Pupil::useATool()
+{
+    const char* const words[] = {"Sort...", "Group...", "Find...", "Find...", "Arrange Cards..."};
+    runCommand(QLatin1String(words[upTo(std::size(words))]));
+}
+
+void Pupil::round()
+{
+    if (++rounds > mostRounds)
+        shutDown();
+    if (rounds % roundsBetweenEvents == 0)
+        QCoreApplication::processEvents();
+    if (oneIn(roundsBetweenActions))
+        act();
+}
+
+/// A pupil who has paused the run does something sooner or later, and carries on in the end.
+void Pupil::wait()
+{
+    round();
+    if (oneIn(8) && isLoaded<FrmSpeed>())
+        form<FrmSpeed>().findChild<QPushButton*>(QStringLiteral("BtnResume"))->click();
+}
+
+void Pupil::act()
+{
+    if (actionsLeft == 0 || !isLoaded<Form1>())
+        return;
+    --actionsLeft;
+    const Action& action = actions[std::size_t(upTo(int(actions.size())))];
+    done.append(QLatin1String(action.name));
+    ++timesDone[done.back()];
+    (this->*action.take)();
+}
+
+void Pupil::answer(QDialog& dialog)
+{
+    dialog.show();
+    fillIn(dialog);
+    const bool agrees = !oneIn(5);
+    for (const char* name : agrees ? std::array{"ok_but", "YesBut"} : std::array{"cancel_but", "NoBut"}) {
+        if (auto* button = dialog.findChild<QPushButton*>(QLatin1String(name)))
+            button->click();
+    }
+    if (dialog.isVisible())
+        dialog.reject();
+}
+
+void Pupil::fillIn(QDialog& dialog)
+{
+    for (auto* box : dialog.findChildren<QComboBox*>()) {
+        if (box->count() > 0)
+            box->setCurrentIndex(upTo(box->count()));
+    }
+    const char* const values[] = {"", "a", "2"};
+    for (auto* edit : dialog.findChildren<QLineEdit*>())
+        edit->setText(QLatin1String(values[upTo(std::size(values))]));
+    if (auto* venn = dialog.findChild<QCheckBox*>(QStringLiteral("vennTick")))
+        venn->setChecked(oneIn(2));
+}
+
+void Pupil::mouse(QEvent::Type type, QPointF point)
+{
+    if (!isLoaded<Form1>())
+        return;
+    const bool pressed = type != QEvent::MouseButtonRelease;
+    QMouseEvent event(type, point, point, type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton,
+                      pressed ? Qt::LeftButton : Qt::NoButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(form<Form1>().board, &event);
+}
+
+void Pupil::chooseFromTheMenu()
+{
+    openMenu(upTo(lastHeading + 1));
+    dispatchLine(upTo(session.menuLastItem[session.openMenuIndex] + 1));
+}
+
+void Pupil::dragACard()
+{
+    pressACard();
+    moveTheMouse();
+    letGo();
+}
+
+void Pupil::pressACard()
+{
+    const CardImage& card = session.box[someCard()];
+    mouse(QEvent::MouseButtonPress, {card.left + card.width / 2, card.top + card.height / 2});
+}
+
+void Pupil::moveTheMouse() { mouse(QEvent::MouseMove, somewhere()); }
+void Pupil::letGo() { mouse(QEvent::MouseButtonRelease, somewhere()); }
+void Pupil::openAnother() { openChosenFolder(folders[upTo(int(folders.size()))]); }
+
+void Pupil::closeTheWindow()
+{
+    form<Form1>().close();
+    messagesAtEnd = recorded.messages.size();
+}
+
+void Pupil::deleteTheFlyingCard() { deleteCard(session.cardId[flying]); }
+
+void Pupil::dropTheFlyingCardOnTheBin()
+{
+    session.BigBin.visible = true;
+    dropOnBin(flying);
+}
+
+/// Another workstation has put a card in first place meanwhile.
+void Pupil::refresh()
+{
+    putFile(session.dbPath + QStringLiteral("/AAAA%1.tcd").arg(rounds % 10000, 4, 10, QLatin1Char('0')),
+            "\"03000100\"\r\n\"b\"\r\n\"1\"\r\n");
+    setRefresh(QStringLiteral("On"));
+    refreshTimer().setInterval(1); // the ticks come with the events from now on
+}
+
+void Pupil::changePace()
+{
+    if (!isLoaded<FrmSpeed>())
+        return;
+    auto& speed = form<FrmSpeed>();
+    speed.findChild<QSlider*>()->setValue(7 + upTo(3));
+    if (auto* button = speed.findChild<QPushButton*>(QStringLiteral("BtnPause")); button->isVisible())
+        button->click();
+}
+
+void Pupil::closeTheSpeedWindow()
+{
+    if (isLoaded<FrmSpeed>())
+        oneIn(2) ? form<FrmSpeed>().reject() : void(form<FrmSpeed>().close());
+}
+
+void Pupil::changeMode() { (oneIn(2) ? form<Form1>().btnTable : form<Form1>().btnCards)->click(); }
+void Pupil::resize() { form<Form1>().resize(640 + upTo(300), 400 + upTo(200)); }
+void Pupil::openTheEditor() { openInEditor(someCard()); }
+
+/// The run is over, nothing is left of it, and the cards lie within reach.
+void Pupil::expectADefinedState() const
+{
+    const std::string did = done.join(QStringLiteral(", ")).toStdString();
+    const bool closed = !isLoaded<Form1>();
+    EXPECT_LE(rounds, mostRounds) << "no end after " << did;
+    const QString emptySort = QStringLiteral("Error|Division by zero"); // leaves the speed window on purpose
+    for (const QString& message : recorded.messages)
+        EXPECT_TRUE(message == emptySort || !message.startsWith(QLatin1String("Error")))
+            << message.toStdString() << " after " << did;
+    EXPECT_TRUE(!isLoaded<FrmSpeed>() || (!closed && recorded.messages.contains(emptySort))) << did;
+    for (const QWidget* window : QApplication::topLevelWidgets()) {
+        const bool mayStay =
+            (!closed && window == &form<Form1>()) || qobject_cast<const FrmSpeed*>(window) != nullptr;
+        EXPECT_TRUE(!window->isVisible() || window->windowType() == Qt::ToolTip || mayStay)
+            << window->objectName().toStdString() << " after " << did;
+    }
+    EXPECT_TRUE(messagesAtEnd < 0 || recorded.messages.size() == messagesAtEnd)
+        << "said after the end: " << did;
+    for (int card = 1; card <= session.numCards; ++card)
+        EXPECT_TRUE(std::abs(session.box[card].left) < farthest && std::abs(session.box[card].top) < farthest)
+            << card << " after " << did;
+}
+
+} // namespace
+
+TEST(DisturbedRuns, EndInADefinedStateWhateverThePupilDoesMeanwhile)
+{
+    for (unsigned seed = 1; seed <= seeds && !testing::Test::HasFailure(); ++seed) {
+        SCOPED_TRACE(seed);
+        freshStart();
+        Pupil pupil(seed);
+        pupil.useATool();
+        pupil.expectADefinedState();
+        unloadAllForms();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
+    freshStart();
+    EXPECT_EQ(Pupil::timesDone.size(), 16U) << "something was never tried";
+}
