@@ -2,6 +2,7 @@
 
 #include "core/screen.h"
 #include "core/session.h"
+#include "platform/balloon.h"
 #include "platform/dialogParts.h"
 #include "platform/errors.h"
 #include "platform/forms.h"
@@ -21,7 +22,7 @@ QPushButton* paceButton(const char* name, const QString& icon, const QString& ac
     auto* button = named(new QPushButton, name);
     button->setIcon(QIcon(picturePath(icon)));
     button->setAccessibleName(accessibleName);
-    button->setToolTip(tip);
+    giveHint(*button, tip);
     button->setAutoDefault(true);
     return button;
 }
@@ -67,10 +68,12 @@ FrmSpeed::FrmSpeed()
     onClick(BtnPause, [this] {
         pauseRun();
         showPauseOrResume();
+        BtnResume->setFocus();
     });
     onClick(BtnResume, [this] {
         resumeRun();
         showPauseOrResume();
+        BtnPause->setFocus();
     });
     showPreparedPace();
 }
@@ -83,11 +86,8 @@ void FrmSpeed::showPreparedPace()
 
 void FrmSpeed::showPauseOrResume()
 {
-    const bool hadFocus = BtnPause->hasFocus() || BtnResume->hasFocus();
     BtnPause->setVisible(!session.runPaused);
     BtnResume->setVisible(session.runPaused);
-    if (hadFocus)
-        (session.runPaused ? BtnResume : BtnPause)->setFocus();
 }
 
 void FrmSpeed::hideEvent(QHideEvent* event)

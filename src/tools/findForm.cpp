@@ -231,7 +231,7 @@ void findForm::toggleAnswers(int row)
     answerHolder->setAnswers(listed);
     const QRect button = each.pullDownBut->geometry();
     int top = button.bottom() + 2;
-    if (row != 0 && top + answerHolder->height() > height())
+    if (row != 0 && button.bottom() + 1 + answerHolder->height() > height())
         top = button.top() - answerHolder->height();
     answerHolder->openAt({each.valBox->x(), top});
 }
