@@ -258,10 +258,16 @@ class Tour:
         self.wait_until(lambda: self._shown_window(title) is None, f'the dialog "{title}" to go')
 
     def pick(self, box, line):
-        """Chooses a line of a drop-down list."""
+        """Chooses a line of a drop-down list. A list takes no click right after it has opened: then clicks again."""
         self.click(box)
-        self.click(self.find("list item", line, within=box))
-        self.wait_until(lambda: box.name == line or not self.all("list item", within=box), f'the list to close on "{line}"')
+        for patience in (1, 1, PATIENCE):  # seconds
+            self.click(self.find("list item", line, within=box))
+            try:
+                return self.wait_until(lambda: box.name == line or not self.all("list item", within=box),
+                                       f'the list to close on "{line}"', patience)
+            except Failed:
+                if patience == PATIENCE:
+                    raise
 
     def drag_onto(self, card, target):
         """Drags a card onto a part of the board."""
@@ -274,10 +280,14 @@ class Tour:
         """The folders of the sample databases beside the program."""
         return sorted(found.parent for found in (self.program / "samples").glob("*/db-info.tdb"))
 
+    def card_values(self, database):
+        """The values of each card, its label first, by the name of its files, in their order."""
+        records = sorted(database.glob("*.tcd"))
+        return {f.stem: [line.strip('"') for line in f.read_text(encoding="cp1252").splitlines()[1:]] for f in records}
+
     def card_labels(self, database):
         """The label of each card by the name of its files, in their order."""
-        records = sorted(database.glob("*.tcd"))
-        return {f.stem: f.read_text(encoding="cp1252").splitlines()[1].strip('"') for f in records}
+        return {name: values[0] for name, values in self.card_values(database).items()}
 
     def database_with_sound(self):
         """A sample database with sounds, and the label of its first card that has one."""
