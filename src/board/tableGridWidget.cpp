@@ -3,6 +3,7 @@
 #include "board/tableView.h"
 #include "core/session.h"
 #include "platform/errors.h"
+#include "platform/textLines.h"
 
 #include <QDropEvent>
 #include <QHeaderView>
@@ -10,11 +11,16 @@
 #include <QMimeData>
 #include <QPainter>
 #include <QStyledItemDelegate>
+#include <QTextDocument>
 #include <QWheelEvent>
 
 namespace {
 
 constexpr int faceColumn = 1;
+constexpr int headerLines = 2;
+constexpr int headerPadding = 10; // left and right of a name together, with the line between columns
+
+QString plainHint(const QString& text) { return Qt::convertFromPlainText(text, Qt::WhiteSpaceNormal); }
 
 /// Paints a face as it is, from the cell's upper left corner.
 class FaceDelegate : public QStyledItemDelegate {
@@ -55,23 +61,39 @@ TableGridWidget::TableGridWidget(QWidget* parent)
     verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
 }
 
-int TableGridWidget::headerHeight() const { return horizontalHeader()->sizeHint().height(); }
+int TableGridWidget::headerHeight() const
+{
+    horizontalHeader()->ensurePolished(); // its font is that of the style sheet only then
+    return horizontalHeader()->sizeHint().height();
+}
 
 void TableGridWidget::showGrid()
 {
     const TableGrid& grid = session.Grid;
     setColumnCount(grid.cols);
     setRowCount(std::max(grid.rows - 1, 0));
-    QStringList names;
-    for (int column = 0; column < grid.cols; ++column) {
-        setColumnWidth(column, grid.columnWidths[std::size_t(column)]);
-        names.append(grid.text[0][std::size_t(column)]);
-    }
-    names[0] = QStringLiteral("No.");
-    names[faceColumn] = QStringLiteral("Card");
-    setHorizontalHeaderLabels(names);
+    showName(0, QStringLiteral("No."));
+    showName(faceColumn, QStringLiteral("Card"));
+    for (int column = faceColumn + 1; column < grid.cols; ++column)
+        showName(column, grid.text[0][std::size_t(column)]);
     for (int row = 1; row < grid.rows; ++row)
         showRow(row);
+}
+
+/// A name too long for its column stands in two lines, and whole in its hint.
+void TableGridWidget::showName(int column, const QString& name)
+{
+    const int width = session.Grid.columnWidths[std::size_t(column)];
+    const QTableWidgetItem* old = horizontalHeaderItem(column);
+    if (old != nullptr && columnWidth(column) == width && old->data(Qt::AccessibleTextRole) == name)
+        return; // breaking lines takes longer than a row of cells
+    setColumnWidth(column, width);
+    QFont font = horizontalHeader()->font();
+    font.setBold(true);
+    auto* shown = new QTableWidgetItem(textInLines(name, font, width - headerPadding, headerLines));
+    shown->setToolTip(plainHint(name));
+    shown->setData(Qt::AccessibleTextRole, name);
+    setHorizontalHeaderItem(column, shown);
 }
 
 void TableGridWidget::showRow(int row)
@@ -92,7 +114,7 @@ void TableGridWidget::showRow(int row)
             shown->setData(Qt::AccessibleTextRole, grid.text[std::size_t(row)][2]);
         } else {
             shown->setText(text);
-            shown->setToolTip(text);
+            shown->setToolTip(plainHint(text));
         }
     }
 }

@@ -25,5 +25,6 @@ protected:
     void dropEvent(QDropEvent* event) override;
 
 private:
+    void showName(int column, const QString& name);
     void showRow(int row);
 };

@@ -8,6 +8,8 @@
 #include <QScrollBar>
 #include <QWheelEvent>
 
+#include <utility>
+
 namespace {
 
 constexpr double turnOfOneRow = 120; // eighths of a degree
@@ -33,8 +35,19 @@ void TablePanel::layOut(const QRect& gridPlace, const QRect& scrollPlace)
     gridScroll->setGeometry(scrollPlace);
     session.Grid.width = gridPlace.width();
     session.Grid.height = gridPlace.height();
-    session.Grid.headerHeight = Grid->headerHeight();
     if (!session.tablePanel.visible)
+        return;
+    const int firstInView = session.gridScroll.value;
+    enter();
+    scrollTableTo(firstInView);
+}
+
+void TablePanel::enter()
+{
+    layoutTable();
+    fillTable();
+    const int headerHeight = Grid->headerHeight(); // told by the names in it
+    if (std::exchange(session.Grid.headerHeight, headerHeight) == headerHeight)
         return;
     layoutTable();
     fillTable();

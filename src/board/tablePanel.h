@@ -12,8 +12,12 @@ class TablePanel : public QFrame {
 public:
     explicit TablePanel(QWidget* parent);
 
-    /// Gives grid and scroll bar their places on the panel and the table, when it is in view, its new rows.
+    /// Gives grid and scroll bar their places on the panel and the table, when it is in view, its new rows;
+    /// the card at its top stays.
     void layOut(const QRect& gridPlace, const QRect& scrollPlace);
+
+    /// Lays the table out for the window's size, from its first card on.
+    void enter();
 
     /// Takes over cells, faces and scroll bar from the session.
     void showGrid();

@@ -4,6 +4,7 @@
 #include "board/mode.h"
 #include "board/tablePanel.h"
 #include "core/mainSettings.h"
+#include "core/menu.h"
 #include "core/screen.h"
 #include "core/session.h"
 #include "core/shutDown.h"
@@ -186,6 +187,9 @@ void Form1::resizeEvent(QResizeEvent*)
     session.boardHeight = height();
     guarded([this] { layoutWindow(); });
 }
+
+/// A click beside the controls of the band is one on the bare board.
+void Form1::mouseReleaseEvent(QMouseEvent*) { guarded(closeMenu); }
 
 void Form1::closeEvent(QCloseEvent* event)
 {

@@ -2,7 +2,6 @@
 #include "board/boardWidget.h"
 #include "board/refresh.h"
 #include "board/tablePanel.h"
-#include "board/tableView.h"
 #include "core/Form1.h"
 #include "core/dispatch.h"
 #include "core/screen.h"
@@ -33,10 +32,7 @@ void connectWindow()
     screen.showControls = inWindow([](Form1& window) { window.showControls(); });
     screen.showHint = inWindow([](Form1& window, const QString& text) { showHint(window, text); });
     screen.hideHints = endHint;
-    screen.showTable = [] {
-        layoutTable();
-        fillTable();
-    };
+    screen.showTable = inWindow([](Form1& window) { window.tablePanel->enter(); });
     screen.redrawTable = inWindow([](Form1& window) { window.tablePanel->showGrid(); });
 }
 

@@ -238,7 +238,8 @@ bool MenuBar::headingEvent(int menu, QEvent* event)
             return false;
         frameHeading(menu);
         hoverHeading(menu);
-        highlight(-1);
+        if (shownMenu >= 0) // a hidden panel would take the keyboard as soon as it is shown
+            highlight(-1);
         return false;
     case QEvent::Leave:
         frameHeading(-1);

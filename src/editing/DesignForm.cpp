@@ -184,6 +184,7 @@ void DesignForm::load()
     const bool free = readOnlyMayChange();
     ChkRD->setEnabled(free);
     LblRO->setEnabled(free);
+    session.designReadOnly = session.databaseStatus == QLatin1String("RO"); // a cancelled tick is forgotten
     ChkRD->setChecked(session.designReadOnly);
 }
 

@@ -3,6 +3,7 @@
 #include "board/faces.h"
 #include "board/mode.h"
 #include "board/places.h"
+#include "board/tableView.h"
 #include "core/screen.h"
 #include "core/session.h"
 #include "core/title.h"
@@ -48,6 +49,16 @@ void beginCard(int card)
     placeCardAtRandom(card);
     saveCardPosition(card);
     markCard(card);
+}
+
+/// The table stayed because the view could not be changed: the new card's row comes into view.
+void showNewRow()
+{
+    ++session.gridScroll.max;
+    scrollTableTo(session.gridScroll.max - 1);
+    session.gridEditRow = session.selectedCard - session.gridScroll.value;
+    session.gridEditCol = 2;
+    screen.redrawTable();
 }
 
 void takeBackCard(int card)
@@ -119,14 +130,17 @@ void addCard()
         showCardMode();
         if (session.numCards >= session.maxCards)
             return;
+        if (session.tablePanel.visible && session.editBox.visible)
+            storeCell();
         const int card = session.numCards + 1;
         beginCard(card);
-        if (session.tablePanel.visible)
-            screen.showTable();
-        else
+        if (session.tablePanel.visible) {
+            showNewRow();
+        } else {
             screen.openCard(card);
-        if (!session.tablePanel.visible && session.dialogResult == QLatin1String("Cancel"))
-            takeBackCard(card);
+            if (session.dialogResult == QLatin1String("Cancel"))
+                takeBackCard(card);
+        }
         updateTitle();
     });
 }

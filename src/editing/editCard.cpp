@@ -120,7 +120,6 @@ void editCard::addFieldRow(QGridLayout& grid, int f)
     fieldName[f]->setMinimumWidth(nameWidth);
     fieldName[f]->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     DataBox[f] = element(new QLineEdit, "DataBox", f);
-    fieldName[f]->setBuddy(DataBox[f]);
     pullDownBut[f] =
         element(new QPushButton(QIcon(picturePath(QStringLiteral("pullDown"))), QString()), "pullDownBut", f);
     pullDownBut[f]->setAutoDefault(false);

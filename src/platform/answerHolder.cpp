@@ -35,11 +35,11 @@ AnswerHolder::AnswerHolder(QWidget* parent, int lineHeight)
     for (int number = 1; number <= lines; ++number) {
         auto* line = answerLine(number, lineHeight);
         line->installEventFilter(this);
-        connect(line, &QPushButton::clicked, this, [this, line] {
+        connect(line, &QPushButton::clicked, this, [this, number] {
             guarded([&] {
                 hide();
                 if (picked)
-                    picked(line->text());
+                    picked(answers.value(number - 1));
             });
         });
         column->addWidget(line);
@@ -61,12 +61,13 @@ AnswerHolder::AnswerHolder(QWidget* parent, int lineHeight)
     hide();
 }
 
-void AnswerHolder::setAnswers(const QStringList& answers)
+void AnswerHolder::setAnswers(const QStringList& texts)
 {
+    answers = texts;
     for (int i = 0; i < lines; ++i) {
-        possAnswer[i]->setText(answers.value(i));
-        possAnswer[i]->setAccessibleName(answers.value(i).isEmpty() ? QStringLiteral("no answer")
-                                                                    : QString());
+        const QString answer = answers.value(i);
+        possAnswer[i]->setText(QString(answer).replace(QLatin1Char('&'), QLatin1String("&&")));
+        possAnswer[i]->setAccessibleName(answer.isEmpty() ? QStringLiteral("no answer") : answer);
     }
 }
 

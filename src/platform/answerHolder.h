@@ -17,7 +17,7 @@ public:
     AnswerHolder(QWidget* parent, int lineHeight);
 
     /// The twelve answers, items 0..11; missing ones are blank lines.
-    void setAnswers(const QStringList& answers);
+    void setAnswers(const QStringList& texts);
 
     /// Shows the panel at a place of the parent's and gives the first line the focus.
     void openAt(QPoint place);
@@ -33,4 +33,5 @@ private:
     void moveFocus(QPushButton* from, int by);
 
     QList<QPushButton*> possAnswer; // 0..11 for answers 1..12
+    QStringList answers;
 };

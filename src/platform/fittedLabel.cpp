@@ -7,6 +7,7 @@
 #include <QPainter>
 #include <QStyle>
 #include <QStyleOption>
+#include <QTextDocument>
 
 FittedLabel::FittedLabel()
 {
@@ -26,7 +27,7 @@ bool FittedLabel::event(QEvent* event)
     const bool handled = QLabel::event(event);
     const bool asked = event->type() == QEvent::Enter || event->type() == QEvent::MouseButtonPress;
     if (asked && textInView().contains(QChar(0x2026)))
-        showHint(*this, text());
+        showHint(*this, Qt::convertFromPlainText(text(), Qt::WhiteSpaceNormal));
     return handled;
 }
 

@@ -92,7 +92,8 @@ QString ItemReader::next()
     if (atEnd())
         throw RuntimeError(pastEndOfFile);
     skipBlanks();
-    return !atEnd() && text[at] == QLatin1Char('"') ? quotedItem() : bareItem();
+    const bool rest = std::exchange(restFollows, false);
+    return !rest && !atEnd() && text[at] == QLatin1Char('"') ? quotedItem() : bareItem();
 }
 
 qint16 ItemReader::nextInteger()
@@ -124,16 +125,15 @@ void ItemReader::skipBlanks()
         ++at;
 }
 
-/// Passes over one comma or one line end, if the reader stands before one.
-void ItemReader::skipSeparator()
+/// Passes over one comma or one line end. False when the reader stands before neither.
+bool ItemReader::skipSeparator()
 {
-    if (atEnd())
-        return;
-    const QChar separator = text[at];
-    if (separator == QLatin1Char(',') || isLineEnd(separator))
-        ++at;
+    if (atEnd() || (text[at] != QLatin1Char(',') && !isLineEnd(text[at])))
+        return false;
+    const QChar separator = text[at++];
     if (separator == QLatin1Char('\r') && !atEnd() && text[at] == QLatin1Char('\n'))
         ++at;
+    return true;
 }
 
 QString ItemReader::quotedItem()
@@ -143,7 +143,7 @@ QString ItemReader::quotedItem()
     const qsizetype end = quote < 0 ? text.size() : quote;
     at = std::min(end + 1, text.size());
     skipBlanks();
-    skipSeparator();
+    restFollows = !skipSeparator() && !atEnd();
     return text.sliced(start, end - start);
 }
 

@@ -29,12 +29,13 @@ public:
 
 private:
     void skipBlanks();
-    void skipSeparator();
+    bool skipSeparator();
     QString quotedItem();
     QString bareItem();
 
     QString text;
     qsizetype at = 0;
+    bool restFollows = false; // what stands behind a closing quote is an item up to the next separator
 };
 
 /// Collects items as the print statement writes them, one to a line.

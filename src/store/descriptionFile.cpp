@@ -84,8 +84,11 @@ void readDbVersion()
     QString last;
     while (!reader.atEnd())
         last = reader.next();
-    if (last.startsWith(QLatin1String("VER")))
-        session.dbVersion = last.mid(5, std::max<qsizetype>(last.size() - 6, 0)); // between the quotes
+    if (!last.startsWith(QLatin1String("VER")))
+        return;
+    if (last.size() < 6) // cut short
+        throw RuntimeError(pastEndOfFile);
+    session.dbVersion = last.mid(5, last.size() - 6); // between the quotes
 }
 
 void readDbInfo()

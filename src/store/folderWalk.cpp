@@ -125,7 +125,8 @@ void FolderWalk::walkTo(const Goal& goal)
                          arrive(goal.folder, listing);
                      } else {
                          fillSlots(); // what was being learnt for them was forgotten
-                         Q_EMIT refused(goal.drive ? deviceUnavailable : listing.error);
+                         Q_EMIT refused(goal.drive && listing.error == pathNotFound ? deviceUnavailable
+                                                                                    : listing.error);
                      }
                  });
 }
@@ -159,7 +160,10 @@ void FolderWalk::setFirst(int index)
     fillSlots();
 }
 
-int FolderWalk::lastFirst() const { return std::max(0, int(here.folders.size() + here.files.size()) - 2); }
+int FolderWalk::lastFirst() const
+{
+    return drivesShown ? 0 : std::max(0, int(here.folders.size() + here.files.size()) - 2);
+}
 
 QString FolderWalk::placeName() const
 {

@@ -112,6 +112,8 @@ void FaceLoader::load(int card)
     const QString& id = session.cardId[card];
     const auto known = lastFaces.constFind(id);
     if (read && known != lastFaces.constEnd() && known->madeAs(wanted)) {
+        if (session.cardSize == stripSize)
+            session.Picture1.image = {};
         passedOver = bytes;
         takeFace(card, *known);
         faces.insert(id, *known);
@@ -209,21 +211,22 @@ void loadAllCards()
 {
     const QStringList files = recordFiles(session.dbPath);
     const int before = session.numCards;
+    const qint64 background = session.backgroundImage.cacheKey();
     readDbInfo();
     session.numCards = int(files.size());
     FaceLoader faces;
-    bool moved = before != session.numCards;
+    bool changed = before != session.numCards || background != session.backgroundImage.cacheKey();
     for (int card = 1; card <= session.numCards; ++card) {
         session.cardId[card] =
             files[card - 1].left(files[card - 1].size() - recordEnding.size()).left(idLength);
         loadCardValues(card);
-        moved |= placeWhenHidden(card);
+        changed |= placeWhenHidden(card);
         faces.load(card);
         placeWhenWithoutPlace(card);
     }
     faces.finish();
     hideUnusedCards();
-    if (moved || faces.anyDrawn())
+    if (changed || faces.anyDrawn())
         screen.redrawBoard();
     updateTitle();
 }

@@ -2,10 +2,11 @@
 
 #include "core/screen.h"
 #include "support/cards.h"
-#include "support/freshStart.h"
+#include "support/files.h"
 
 #include <QDir>
-#include <QFile>
+
+#include <map>
 
 using testing::ElementsAre;
 
@@ -103,9 +104,7 @@ TEST_F(TableView, AStoredCellReachesTheRecordAndANewLabelTheFace)
     EXPECT_EQ(text(2, 2), QStringLiteral("new"));
     EXPECT_EQ(session.box[3].tooltip, QStringLiteral("new"));
     EXPECT_FALSE(session.box[3].picture.isNull());
-    QFile record(session.dbPath + QStringLiteral("/AAAAAA03.tcd"));
-    ASSERT_TRUE(record.open(QIODevice::ReadOnly));
-    EXPECT_EQ(record.readAll(), QByteArray("\"\"\r\n\"new\"\r\n\"30\"\r\n"));
+    EXPECT_EQ(bytesOf(inTestFolder(QStringLiteral("AAAAAA03.tcd"))), "\"\"\r\n\"new\"\r\n\"30\"\r\n");
 }
 
 TEST_F(TableView, EnterWalksThroughTheFieldsTheRowsAndThePages)
@@ -161,18 +160,40 @@ TEST_F(TableView, WhatCannotBeLoadedLeavesTheOldPicture)
 {
     twelveCards();
     layoutTable();
-    const QString garbage = testFolder() + QStringLiteral("notes.txt");
-    QFile file(garbage);
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write("no picture") > 0);
-    file.close();
+    const QString garbage = inTestFolder(QStringLiteral("notes.txt"));
+    putFile(garbage, "no picture");
+    const QString huge = inTestFolder(QStringLiteral("huge.png"));
+    ASSERT_TRUE(QImage(20000, 20000, QImage::Format_Mono).save(huge));
     ASSERT_TRUE(picture(qRgb(0, 0, 255)).save(pictureFile(1)));
-    const QImage before(pictureFile(1));
+    const QByteArray before = bytesOf(pictureFile(1));
     for (const QString& path :
-         QStringList{garbage, QString(), testFolder(), testFolder() + QStringLiteral("gone.bmp")}) {
+         {garbage, huge, QString(), testFolder(), inTestFolder(QStringLiteral("gone.bmp"))}) {
         recorded.messages.clear();
         dropPictureOnRow(1, path);
         EXPECT_EQ(recorded.messages.size(), 1) << path.toStdString();
     }
-    EXPECT_EQ(QImage(pictureFile(1)), before);
+    EXPECT_EQ(bytesOf(pictureFile(1)), before);
     EXPECT_EQ(session.selectedCard, 0);
+}
+
+TEST_F(TableView, APictureDroppedPastTheLastCardTouchesNoCardsFiles)
+{
+    twelveCards();
+    layoutTable();
+    fillTable();
+    for (int card = 1; card <= 12; ++card)
+        ASSERT_TRUE(picture(qRgb(0, 0, 255)).save(pictureFile(card)));
+    const QString path = inTestFolder(QStringLiteral("red.png"));
+    ASSERT_TRUE(picture(qRgb(255, 0, 0)).save(path));
+    const auto cardFiles = [] {
+        std::map<int, QByteArray> files;
+        for (int card = 1; card <= 12; ++card)
+            files[card] = bytesOf(pictureFile(card));
+        return files;
+    };
+    const auto before = cardFiles();
+    scrollTableTo(12);
+    dropPictureOnRow(1, path);
+    EXPECT_EQ(cardFiles(), before);
+    EXPECT_EQ(session.numCards, 12);
 }

@@ -2,16 +2,20 @@
 
 #include "board/boardWidget.h"
 #include "board/tablePanel.h"
-
+#include "board/tableView.h"
+#include "core/menu.h"
 #include "core/screen.h"
 #include "core/session.h"
 #include "core/title.h"
 #include "platform/forms.h"
 #include "store/settings.h"
+#include "support/cards.h"
 #include "support/freshStart.h"
 
 #include <QCoreApplication>
 #include <QFile>
+#include <QHeaderView>
+#include <QTableWidget>
 #include <QTest>
 
 using testing::ElementsAre;
@@ -107,6 +111,32 @@ TEST_F(MainWindow, TheBoardIsTheWholeInside)
     EXPECT_EQ(window.board->size(), window.size());
     EXPECT_EQ(window.tablePanel->geometry(), QRect(0, 40, 900, 560));
     EXPECT_THAT(recorded.messages, IsEmpty());
+}
+
+TEST_F(MainWindow, AClickOnTheBandClosesTheMenu)
+{
+    fillMenuTables();
+    QTest::mouseClick(window.menuBar->MenuTop[0], Qt::LeftButton);
+    EXPECT_TRUE(session.MenuHolder.visible);
+    QTest::mouseClick(window.windowHandle(), Qt::LeftButton, {}, {950, 20});
+    EXPECT_FALSE(session.MenuHolder.visible);
+}
+
+TEST_F(MainWindow, TheTableHasRoomForItsHeaderAndKeepsItsPlaceWhenResized)
+{
+    cards(QStringList(40, QStringLiteral("card")));
+    for (const int height : {700, 730}) {
+        window.resize(1000, height);
+        screen.showTable();
+        auto& grid = *window.tablePanel->findChild<QTableWidget*>();
+        const int header = grid.horizontalHeader()->height();
+        EXPECT_GT(header, 0);
+        EXPECT_EQ(grid.rowCount(), (session.Grid.height - 12 - header) / 60) << height;
+    }
+    scrollTableTo(15);
+    window.resize(900, 600);
+    EXPECT_EQ(session.gridScroll.value, 15);
+    EXPECT_EQ(session.Grid.text[1][0], QStringLiteral("16"));
 }
 
 TEST_F(MainWindow, ASizeWithoutRoomIsRefusedInWords)

@@ -168,6 +168,7 @@ TEST_F(MenuBarOnWindow, ClosesFromOutsideAndByItsHeading)
     click(bar.MenuTop[0]);
     EXPECT_FALSE(bar.MenuHolder->isVisible());
     EXPECT_EQ(session.openMenuIndex, -1);
+    EXPECT_EQ(window.focusWidget(), &other) << "the mouse leaves the keyboard where it was";
 }
 
 TEST_F(MenuBarOnWindow, TheKeyboardOpensWalksChoosesAndGivesTheFocusBack)

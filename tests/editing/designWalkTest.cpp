@@ -212,7 +212,6 @@ TEST_F(RandomDatabases, AWalkOfDesignsAndEditsLeavesWhatTheModelTells)
         case 1: // closed and opened again
             openChosenFolder(session.dbPath);
             model.forgetUnusedFields(model.numFields);
-            model.readOnlyTick = model.status == "RO";
             ++steps;
             break;
         default:
@@ -226,6 +225,7 @@ TEST_F(RandomDatabases, AWalkOfDesignsAndEditsLeavesWhatTheModelTells)
 void RandomDatabases::designSession(Model& model)
 {
     const bool ok = roll(2) == 0;
+    model.readOnlyTick = model.status == "RO";
     recorded.dialogSteps.push_back([&](QDialog& dialog) {
         for (int changes = roll(6); changes > 0; --changes)
             designStep(dynamic_cast<DesignForm&>(dialog), model);
@@ -287,7 +287,6 @@ void RandomDatabases::editSomeCard(Model& model)
 {
     ++steps;
     loadAllCards(); // as a tick of the refresh, with the fields as they are now
-    model.readOnlyTick = model.status == "RO";
     const bool adds = session.numCards == 0 || (session.numCards < 12 && roll(3) == 0);
     const bool ok = roll(3) > 0;
     for (int i = 0; i < 10; ++i) // a new card's name and place

@@ -195,6 +195,7 @@ TEST_F(EditingCards, AnAnswerIsPickedFromTheListByMouseAndByKeys)
 {
     session.fieldUseList[1] = true;
     session.fieldListItem[1][12] = QStringLiteral("last");
+    session.fieldListItem[3][3] = QStringLiteral("black & blue");
     pupil([](editCard& editor) {
         AnswerHolder& list = *editor.Answers;
         const auto line = [&](int j) {
@@ -211,8 +212,9 @@ TEST_F(EditingCards, AnAnswerIsPickedFromTheListByMouseAndByKeys)
         EXPECT_FALSE(list.isVisible());
 
         click(editor, "pullDownBut3");
+        EXPECT_TRUE(line(3)->shortcut().isEmpty());
         QTest::mouseClick(line(3), Qt::LeftButton);
-        EXPECT_EQ(editor.DataBox[3]->text(), QStringLiteral("blue"));
+        EXPECT_EQ(editor.DataBox[3]->text(), QStringLiteral("black & blue"));
         EXPECT_FALSE(list.isVisible());
 
         editor.DataBox[3]->setFocus();

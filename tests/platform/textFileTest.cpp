@@ -56,6 +56,7 @@ TEST(TextFile, ItemsEndAtCommasAndLineEndsOutsideQuotes)
         {"a,b\nc\rd", {"a", "b", "c", "d"}},
         {"VER=\"1.1.0\"\r\n", {"VER=\"1.1.0\""}},
         {"\"say \"hi\" now\"\r\n\"next\"", {"say ", "hi\" now\"", "next"}},
+        {"\"12\"\"\r\n\"red\"", {"12", "\"", "red"}},
         {"\"a\" , \"b\"", {"a", "b"}},
         {"\"two\r\nlines\"\r\nx", {"two\r\nlines", "x"}},
         {"\"never closed\r\nx", {"never closed\r\nx"}},

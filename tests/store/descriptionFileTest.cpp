@@ -94,6 +94,8 @@ TEST_F(DescriptionFile, EveryFailedStatementIsToldOnceAndTheRestIsRead)
         {"a count that is none", QByteArray(pets).replace(0, 3, "two"), 1 + 2, 3, 1},
         {"a count beyond 16 bits", QByteArray(pets).replace(0, 3, " 70000 "), 1 + 2, 3, 1},
         {"a card size out of range", QByteArray(pets).replace(" 1 ", " 3 "), 1, 2, 1},
+        {"a version cut short", " 1 \r\n 2 \r\n\"none\"\r\n\"a\"\r\n\"Abc\"\r\nFalse\r\nRW\r\nVER=\"", 1, 1,
+         2},
         {"a flag that is none", QByteArray(pets).replace("False", "Maybe"), 1, 2, 1},
     };
     for (const auto& [name, bytes, problems, fields, size] : cases) {

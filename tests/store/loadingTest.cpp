@@ -96,6 +96,15 @@ TEST_F(Loading, AReloadEndsAsAFullLoadWhateverWasPassedOver)
     EXPECT_FALSE(session.box[1].picture.isNull());
     EXPECT_EQ(boardDrawn, 2);
 
+    QFile description(path(QStringLiteral("db-info.tdb")));
+    putFile(description.fileName(), bytesOf(description.fileName()).replace("none", ""));
+    loadAllCards();
+    EXPECT_EQ(boardDrawn, 2) << "no background instead of none";
+    putFile(description.fileName(),
+            bytesOf(description.fileName()).replace("\"\"", '"' + cardName(1).toLatin1() + ".bmp\""));
+    loadAllCards();
+    EXPECT_EQ(boardDrawn, 3) << "a background has come";
+
     desktop.pixelRatio = [] { return 2.0; }; // the window has gone to a sharper screen
     loadAllCards();
     EXPECT_EQ(session.box[1].picture.width(), 2 * session.shrinkdummy.width);

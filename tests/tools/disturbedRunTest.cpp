@@ -138,6 +138,7 @@ Pupil::Pupil(unsigned seed)
     auto& window = form<Form1>();
     window.resize(640, 400);
     window.show();
+    fillMenuTables();
     folders = {writeStrips(QStringLiteral("five"), 5), writeStrips(QStringLiteral("two"), 2),
                writeStrips(QStringLiteral("none"), 0), writeStrips(QStringLiteral("nine"), 9)};
     openChosenFolder(folders[0]);
