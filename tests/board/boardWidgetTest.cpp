@@ -196,16 +196,6 @@ TEST_F(Board, ACardIsRaisedByMerelyPassingOverIt)
     EXPECT_EQ(session.selectedCard, 1);
 }
 
-TEST_F(Board, TheRightButtonDragsTooAndPlaysTheSoundAtTheEnd)
-{
-    session.dbPath = testFolder().chopped(1);
-    putFile(inTestFolder(QStringLiteral("CARDAAA2.snd")), "RIFF");
-    drag({310, 215}, {410, 315}, Qt::RightButton);
-    EXPECT_EQ(session.box[2].left, 400);
-    ASSERT_EQ(recorded.played.size(), 1);
-    EXPECT_TRUE(recorded.played[0].endsWith(QStringLiteral("CARDAAA2.snd")));
-}
-
 TEST_F(Board, ADoubleClickTurnsTheRefreshOffAndOpensTheEditor)
 {
     screen.openCard = [this](int card) {

@@ -86,15 +86,3 @@ TEST_F(Places, OverlapIsJudgedByTheCardsOwnMeasures)
     session.box[2].visible = true;
     EXPECT_FALSE(cardOverlaps(1)) << "an error makes it false";
 }
-
-TEST_F(Places, TheFrameStandsTwoPixelsOffTheCardAllAround)
-{
-    cardAt(3, 50, 60);
-    markCard(3);
-    const BoardShape& frame = session.SelectBox;
-    EXPECT_TRUE(frame.visible);
-    EXPECT_EQ(frame.left, 48);
-    EXPECT_EQ(frame.top, 58);
-    EXPECT_EQ(frame.width, 84);
-    EXPECT_EQ(frame.height, 64);
-}

@@ -104,17 +104,6 @@ TEST_F(Dispatch, AGreyLineLeavesTheMenuOpenAndTheRefreshOff)
     EXPECT_FALSE(session.BigBin.visible);
 }
 
-TEST_F(Dispatch, DeletingBringsOutTheBinOnTheCards)
-{
-    session.btnTable.pressed = true;
-    session.tablePanel.visible = true;
-    choose("Delete Card");
-    EXPECT_TRUE(session.BigBin.visible);
-    EXPECT_TRUE(session.btnCards.pressed);
-    EXPECT_FALSE(session.btnTable.pressed);
-    EXPECT_FALSE(session.tablePanel.visible);
-}
-
 TEST_F(Dispatch, EachWordLeavesItsMarkInGraphOnScreen)
 {
     const QStringList untouched = {QStringLiteral("Save"),     QStringLiteral("Save As..."),

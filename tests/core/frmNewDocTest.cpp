@@ -136,13 +136,3 @@ TEST_F(Welcome, AnErrorWhileOpeningEndsTheProgram)
     EXPECT_THAT(recorded.messages, ElementsAre(QStringLiteral("Error|Path not found")));
     EXPECT_FALSE(isLoaded<frmNewDoc>());
 }
-
-TEST_F(Welcome, EscapeAndTheCloseBoxAreCancel)
-{
-    shown().Option1->click();
-    QTest::keyClick(&shown(), Qt::Key_Escape);
-    EXPECT_FALSE(isLoaded<frmNewDoc>());
-    shown().close();
-    EXPECT_FALSE(isLoaded<frmNewDoc>());
-    EXPECT_THAT(ran, IsEmpty());
-}

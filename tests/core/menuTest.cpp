@@ -55,12 +55,3 @@ TEST_F(Menu, AClickOpensAndAClickOnTheOpenOneClosesAndKeepsTheFrame)
     EXPECT_EQ(session.openMenuIndex, -1);
     EXPECT_FALSE(session.SelectBox.visible);
 }
-
-TEST_F(Menu, SlidesOnlyWhileItIsOpen)
-{
-    hoverHeading(1);
-    EXPECT_EQ(session.openMenuIndex, -1);
-    clickHeading(0);
-    hoverHeading(3);
-    EXPECT_EQ(session.openMenuIndex, 3);
-}

@@ -6,15 +6,6 @@ using testing::ElementsAre;
 
 using SessionState = Fresh;
 
-TEST_F(SessionState, StartsWithMeasuresThatDoNotAgreeWithTheCardSize)
-{
-    EXPECT_EQ(session.numFields, 3);
-    EXPECT_EQ(session.numCards, 0);
-    EXPECT_EQ(session.cardSize, 0);
-    EXPECT_EQ(session.cardWidth, 80);
-    EXPECT_EQ(session.cardHeight, 60);
-}
-
 TEST_F(SessionState, ResettingTheCardTableLeavesTheCount)
 {
     session.numCards = 7;
@@ -34,15 +25,6 @@ TEST_F(SessionState, ResettingTheCardTableLeavesTheCount)
     EXPECT_FALSE(session.box[7].visible);
     EXPECT_EQ(session.box[0].width, 40);
     EXPECT_EQ(session.box[99].height, 30);
-}
-
-TEST_F(SessionState, ClearingACardKeepsItsPlace)
-{
-    session.cardValue[3][0] = QStringLiteral("00100020");
-    session.cardValue[3][12] = QStringLiteral("x");
-    clearCardValues(3);
-    EXPECT_EQ(session.cardValue[3][0], QStringLiteral("00100020"));
-    EXPECT_TRUE(session.cardValue[3][12].isEmpty());
 }
 
 TEST_F(SessionState, AnIndexOutsideATableIsAnErrorAndNotClamped)

@@ -45,17 +45,6 @@ bool pressLetter(QDialog& dialog, Qt::Key letter, const std::function<bool()>& d
     return QTest::qWaitFor(done);
 }
 
-int rowsShown(const DesignForm& dialog)
-{
-    int shown = 0;
-    for (int f = 1; f <= lastField; ++f) {
-        EXPECT_EQ(dialog.fieldName[f]->isVisible(), dialog.EditFieldBut[f]->isVisible());
-        EXPECT_EQ(dialog.fieldName[f]->isVisible(), dialog.DataBox[f]->isVisible());
-        shown += dialog.fieldName[f]->isVisible() ? 1 : 0;
-    }
-    return shown;
-}
-
 } // namespace
 
 class Design : public Fresh {
@@ -75,29 +64,6 @@ protected:
 
     static QByteArray description() { return bytesOf(inTestFolder(QStringLiteral("db-info.tdb"))); }
 };
-
-TEST_F(Design, TheNumberOfFieldsStaysWithinOneAndTwelveAndCancelKeepsIt)
-{
-    design([](DesignForm& dialog) {
-        EXPECT_EQ(rowsShown(dialog), 3);
-        for (int times = 0; times < 4; ++times)
-            press(dialog.spinDown);
-        EXPECT_EQ(session.numFields, 1);
-        EXPECT_EQ(dialog.numFieldsBox->text(), QStringLiteral("1"));
-        for (int times = 0; times < 15; ++times)
-            press(dialog.spinUp);
-        EXPECT_EQ(session.numFields, 12);
-        EXPECT_EQ(rowsShown(dialog), 12);
-        EXPECT_EQ(dialog.fieldName[4]->text(), QStringLiteral("fieldname4"));
-        EXPECT_EQ(dialog.DataBox[4]->text(), QStringLiteral("Abc"));
-        press(dialog.spinDown);
-        QTest::keyClick(&dialog, Qt::Key_Escape);
-    });
-    EXPECT_EQ(session.dialogResult, QStringLiteral("Cancel"));
-    EXPECT_FALSE(isLoaded<DesignForm>());
-    EXPECT_EQ(session.numFields, 11);
-    EXPECT_TRUE(description().startsWith(" 11 \r\n"));
-}
 
 TEST_F(Design, TwoQuickClicksOpenOneDialog)
 {

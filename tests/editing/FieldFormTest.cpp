@@ -30,45 +30,6 @@ protected:
     }
 };
 
-TEST_F(FieldDetails, ShowTheFieldAndDefineItByOkAlone)
-{
-    const auto change = [](FieldForm& dialog) {
-        EXPECT_EQ(dialog.fieldType->currentText(), QStringLiteral("123 - Numbers only"));
-        EXPECT_FALSE(dialog.AnswerHolder->isVisible());
-        EXPECT_FALSE(dialog.listLabel->isVisible());
-        QTest::keyClicks(dialog.focusWidget(), QStringLiteral("Pet")); // over the selected name
-        QTest::keyClick(&dialog, Qt::Key_T, Qt::AltModifier);
-        QTest::keyClick(dialog.focusWidget(), Qt::Key_Up);
-        QTest::keyClick(&dialog, Qt::Key_L, Qt::AltModifier);
-        EXPECT_TRUE(QTest::qWaitFor([&] { return dialog.AnswerHolder->isVisible(); }));
-        EXPECT_EQ(dialog.focusWidget(), dialog.possAnswer[1]);
-        QTest::keyClicks(dialog.possAnswer[1], QStringLiteral("cat"));
-        QTest::keyClicks(dialog.possAnswer[12], QStringLiteral("1.5, or so"));
-    };
-    EXPECT_FALSE(edit(change, Qt::Key_Escape));
-    EXPECT_EQ(session.dialogResult, QStringLiteral("Cancel"));
-    EXPECT_EQ(session.fieldName[2], QStringLiteral("Legs"));
-    EXPECT_FALSE(session.fieldUseList[2]);
-
-    EXPECT_TRUE(edit(change));
-    EXPECT_EQ(session.dialogResult, QStringLiteral("OK"));
-    EXPECT_EQ(session.fieldName[2], QStringLiteral("Pet"));
-    EXPECT_EQ(session.fieldType[2], QStringLiteral("Abc"));
-    EXPECT_TRUE(session.fieldUseList[2]);
-    EXPECT_EQ(session.fieldListItem[2][1], QStringLiteral("cat"));
-    EXPECT_EQ(session.fieldListItem[2][12], QStringLiteral("1.5, or so"));
-
-    const auto untick = [](FieldForm& dialog) {
-        EXPECT_EQ(dialog.possAnswer[12]->text(), QStringLiteral("1.5, or so"));
-        dialog.UseList->click();
-        EXPECT_FALSE(dialog.AnswerHolder->isVisible());
-        dialog.UseList->click();
-        EXPECT_TRUE(dialog.possAnswer[12]->text().isEmpty()) << "unticking loses the list on the form";
-    };
-    edit(untick, Qt::Key_Escape);
-    EXPECT_EQ(session.fieldListItem[2][1], QStringLiteral("cat"));
-}
-
 TEST_F(FieldDetails, ANumberListTakesDigitsSlashAndTheDeleteKey)
 {
     edit([](FieldForm& dialog) {

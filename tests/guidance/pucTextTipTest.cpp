@@ -3,8 +3,6 @@
 #include "platform/errors.h"
 #include "support/freshStart.h"
 
-#include <QSignalSpy>
-
 namespace {
 
 class TipBalloon : public Fresh {
@@ -27,12 +25,6 @@ QImage picture(int width)
 const QString manyWords = QStringLiteral("a tip that runs on and on ").repeated(12);
 
 } // namespace
-
-TEST_F(TipBalloon, ANewOneShowsItsName)
-{
-    EXPECT_EQ(balloon.text(), QStringLiteral("Tip1"));
-    EXPECT_EQ(balloon.lblTip->text(), QStringLiteral("Tip1"));
-}
 
 TEST_F(TipBalloon, BothMarksBreakTheLineAndNothingElseIsMarkUp)
 {
@@ -110,17 +102,4 @@ TEST_F(TipBalloon, TheWindowBehindShowsThroughItsCorners)
     EXPECT_FALSE(balloon.mask().contains(QPoint(199, 59)));
     EXPECT_TRUE(balloon.mask().contains(QPoint(0, 30)));
     EXPECT_TRUE(balloon.mask().contains(QPoint(3, 3)));
-}
-
-TEST_F(TipBalloon, TellsWhatWasSet)
-{
-    const QSignalSpy spy(&balloon, &pucTextTip::changed);
-    balloon.setText(QStringLiteral("new"));
-    balloon.setTipFont(QFont());
-    balloon.setPicture(picture(10));
-    QStringList told;
-    for (const auto& signal : spy)
-        told.append(signal.first().toString());
-    told.removeDuplicates();
-    EXPECT_EQ(told.join(QLatin1Char(' ')), QStringLiteral("Text Font Picture"));
 }

@@ -22,11 +22,3 @@ TEST(Fonts, StandInWithOneOfLikeWidthWhereTheNamedOneIsMissing)
         QFontMetricsF(font).horizontalAdvance(label) / QFontMetricsF(plain).horizontalAdvance(label);
     EXPECT_NEAR(widened * 0.88, 1, 0.03);
 }
-
-TEST(Fonts, LeaveAnyOtherNameAlone)
-{
-    const QFont font = namedFont(QStringLiteral("Andika"), 12.5);
-    EXPECT_EQ(font.family(), QStringLiteral("Andika"));
-    EXPECT_EQ(font.pointSizeF(), 12.5);
-    EXPECT_EQ(font.stretch(), QFont().stretch());
-}

@@ -17,12 +17,6 @@ QStringList told(const QByteArray& table, int from = 2)
 
 } // namespace
 
-TEST(Mounts, HomeAndComputerComeFirst)
-{
-    EXPECT_THAT(told({}, 0), ElementsAre(QStringLiteral("(HOME) ") + QDir::homePath() + QStringLiteral(" 3"),
-                                         QStringLiteral("(COMPUTER) / 3")));
-}
-
 TEST(Mounts, OnlyMediaThatAPupilMayWantAreDrives)
 {
     EXPECT_THAT(told("/dev/sda2 / ext4 rw 0 0\n"

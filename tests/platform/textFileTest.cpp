@@ -2,9 +2,6 @@
 
 #include "support/files.h"
 
-using testing::ElementsAre;
-using testing::Throws;
-
 namespace {
 
 QStringList itemsOf(const QString& text)
@@ -83,15 +80,4 @@ TEST(TextFile, NumbersAndTruthValuesThatAreNoneAreErrors)
     EXPECT_EQ(errorOf([&] { integer("inf"); }), overflow);
     EXPECT_EQ(errorOf([&] { truth("maybe"); }), typeMismatch);
     EXPECT_EQ(errorOf([&] { truth(""); }), pastEndOfFile);
-}
-
-TEST(TextFile, WritesAsThePrintStatementDoes)
-{
-    ItemWriter writer;
-    writer.number(4);
-    writer.number(-1);
-    writer.quoted(QStringLiteral("Größe, m"));
-    writer.bare(QStringLiteral("True"));
-    EXPECT_EQ(writer.bytes(), QByteArray(" 4 \r\n-1 \r\n\"Gr\xF6\xDF"
-                                         "e, m\"\r\nTrue\r\n"));
 }

@@ -129,14 +129,6 @@ TEST_F(ChoosingADatabase, OKTakesWhatIsChosenAndNothingElse)
               QStringLiteral("home/zoo"));
 }
 
-TEST_F(ChoosingADatabase, CancelEscapeAndTheFrameAllCancel)
-{
-    EXPECT_EQ(chosen([](FileForm& files) { click(files, "CancelBut"); }), cancelled);
-    EXPECT_EQ(chosen([](FileForm& files) { QTest::keyClick(&files, Qt::Key_Escape); }), cancelled);
-    EXPECT_EQ(chosen([](FileForm& files) { files.close(); }), cancelled);
-    EXPECT_EQ(session.dialogResult, cancelled);
-}
-
 TEST_F(ChoosingADatabase, TheDrivesAreAboveEveryRootAndAMissingDiscIsTold)
 {
     EXPECT_EQ(chosen([](FileForm& files) {

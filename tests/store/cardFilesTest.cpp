@@ -4,8 +4,6 @@
 #include "platform/pictureFile.h"
 #include "support/files.h"
 
-using testing::ElementsAre;
-
 class CardFiles : public Fresh {
 protected:
     CardFiles()
@@ -101,42 +99,6 @@ TEST_F(CardFiles, ThePictureIsWhatTheEditorShows)
     EXPECT_EQ(loaded.size(), QSize(159, 120)) << "cut at the control's edges";
     EXPECT_EQ(loaded.pixelColor(158, 59), QColor(Qt::red));
     EXPECT_EQ(loaded.pixelColor(0, 60), QColor(Qt::white));
-}
-
-TEST_F(CardFiles, AMissingOrDamagedPictureIsToldAndTheFormerOneStays)
-{
-    QImage former(10, 10, QImage::Format_RGB32);
-    former.fill(Qt::blue);
-    session.Picture1.image = former;
-    loadCardPicture(1);
-    putFile(file("CARDAAAA.bmp"), bitmapBytes(former).chopped(1));
-    loadCardPicture(1);
-    showCardPicture("junk");
-    EXPECT_THAT(recorded.messages,
-                ElementsAre(QStringLiteral("Error|File not found"), QStringLiteral("Error|Invalid picture"),
-                            QStringLiteral("Error|Invalid picture")));
-    EXPECT_EQ(session.Picture1.image, former);
-}
-
-TEST_F(CardFiles, StripsHaveNoPicture)
-{
-    session.cardSize = 2;
-    session.Picture1.image = QImage(3, 3, QImage::Format_RGB32);
-    saveCardPicture(1);
-    EXPECT_FALSE(QFile::exists(file("CARDAAAA.bmp")));
-    loadCardPicture(1);
-    EXPECT_TRUE(session.Picture1.image.isNull());
-    EXPECT_TRUE(recorded.messages.isEmpty());
-}
-
-TEST_F(CardFiles, ASoundIsPlayedWhenThereIsOne)
-{
-    playCardSound(1);
-    EXPECT_TRUE(recorded.played.isEmpty());
-    putFile(file("cardaaaa.SND"), "RIFF");
-    EXPECT_TRUE(cardHasSound(1));
-    playCardSound(1);
-    EXPECT_EQ(recorded.played, QStringList(file("cardaaaa.SND")));
 }
 
 TEST_F(CardFiles, DeletingTheAnswersTouchesNothingElse)

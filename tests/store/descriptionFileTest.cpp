@@ -121,17 +121,6 @@ TEST_F(DescriptionFile, AMissingFileLeavesEverythingAsItWas)
     EXPECT_EQ(session.dbVersion, QStringLiteral("1.0.0"));
 }
 
-TEST_F(DescriptionFile, GarbageGivesABoundedRowOfMessages)
-{
-    const QByteArray garbage[] = {QByteArray(4 << 20, '\n'), QByteArray(4 << 20, '"'),
-                                  QByteArray(4 << 20, '\0'), QByteArray(4 << 20, ','),
-                                  QByteArray(100, '\xFF'),   QByteArray(5 << 20, 'x'),
-                                  "\xFF\xFE 2 \0\r\n"};
-    for (const QByteArray& bytes : garbage)
-        EXPECT_LE(problemsIn(bytes), 15);
-    EXPECT_EQ(session.numFields, 3);
-}
-
 TEST_F(DescriptionFile, AnotherBackgroundIsLoadedOnce)
 {
     QImage map(3, 2, QImage::Format_RGB32);
@@ -150,15 +139,4 @@ TEST_F(DescriptionFile, AnotherBackgroundIsLoadedOnce)
     EXPECT_TRUE(session.backgroundImage.isNull());
     EXPECT_EQ(problemsIn(withBackground(QStringLiteral("map.bmp"))), 0) << "beside the description";
     EXPECT_EQ(session.backgroundImage.size(), QSize(3, 2));
-}
-
-TEST_F(DescriptionFile, TextsOfOtherAlphabetsSurvive)
-{
-    problemsIn(pets);
-    session.fieldName[1] = QStringLiteral("Imię i świat");
-    session.fieldListItem[2][1] = QStringLiteral("日本");
-    writeDbInfo();
-    EXPECT_EQ(problemsIn(bytesOf(description())), 0);
-    EXPECT_EQ(session.fieldName[1], QStringLiteral("Imię i świat"));
-    EXPECT_EQ(session.fieldListItem[2][1], QStringLiteral("日本"));
 }

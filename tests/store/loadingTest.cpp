@@ -59,20 +59,6 @@ TEST_F(Loading, PlacesNewCardsAndLeavesThoseInView)
     EXPECT_EQ(session.box[2].left, 555);
 }
 
-TEST_F(Loading, CardsRemovedElsewhereVanishFromTheTail)
-{
-    open(3);
-    loadAllCards();
-    QFile::remove(path(cardName(1) + QStringLiteral(".tcd")));
-    loadAllCards();
-    EXPECT_EQ(session.numCards, 2);
-    EXPECT_EQ(session.cardValue[1][1], QStringLiteral("card 2"));
-    EXPECT_EQ(faceColour(1), QColor(2, 0, 0));
-    EXPECT_FALSE(session.box[3].visible);
-    EXPECT_TRUE(session.cardId[3].isEmpty());
-    EXPECT_TRUE(session.cardValue[3][1].isEmpty());
-}
-
 TEST_F(Loading, AReloadEndsAsAFullLoadWhateverWasPassedOver)
 {
     open(3);
@@ -124,19 +110,6 @@ TEST_F(Loading, AMissingPictureIsToldAtEachLoadAndTheFaceShowsTheOneBefore)
         EXPECT_EQ(faceColour(2), QColor(1, 0, 0));
         EXPECT_EQ(faceColour(3), QColor(1, 0, 0));
     }
-}
-
-TEST_F(Loading, AFolderThatIsGoneChangesNothing)
-{
-    open(2);
-    loadAllCards();
-    const QString folder = session.dbPath;
-    QDir(folder).removeRecursively();
-    EXPECT_EQ(errorOf(loadAllCards), pathNotFound);
-    EXPECT_EQ(session.numCards, 2);
-    EXPECT_EQ(session.fieldName[1], QStringLiteral("Name"));
-    EXPECT_TRUE(session.box[2].visible);
-    EXPECT_TRUE(recorded.messages.isEmpty());
 }
 
 TEST_F(Loading, AHundredRecordsLoadAndOneMoreIsAnError)

@@ -97,11 +97,3 @@ TEST_F(Opening, GoesOnWithoutADescriptionFile)
     EXPECT_EQ(session.numCards, 1);
     EXPECT_TRUE(session.MenuTop[1].enabled);
 }
-
-TEST_F(Opening, AnEmptyFolderStillSelectsTheFirstCard)
-{
-    openChosenFolder(writeDatabase(QStringLiteral("db"), 0));
-    EXPECT_EQ(session.numCards, 0);
-    EXPECT_EQ(session.selectedCard, 1);
-    EXPECT_TRUE(recorded.messages.isEmpty());
-}

@@ -144,17 +144,6 @@ TEST_F(ToolForms, FindTakesOnlyNumbersForANumberFieldAndAnswersFromItsList)
     EXPECT_FALSE(part<QWidget>(find, "AnswerHolder").isVisible());
 }
 
-TEST_F(ToolForms, ArrangeLaysOutWhatThePreviewShows)
-{
-    answer([](QDialog& dialog) {
-        pick(dialog, "moveCombo", "Right");
-        EXPECT_EQ(part<QWidget>(dialog, "smallBox1").y() - part<QWidget>(dialog, "smallBox0").y(), 26);
-        press(dialog, "ok_but");
-    });
-    arrangeCommand();
-    EXPECT_EQ(session.box[1].left, 912);
-}
-
 TEST_F(ToolForms, TheSpeedWindowPausesResumesAndEndsARun)
 {
     QWidget window;
