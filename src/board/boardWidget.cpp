@@ -3,6 +3,7 @@
 #include "core/screen.h"
 #include "platform/picture.h"
 
+#include <QApplication>
 #include <QCursor>
 #include <QFontMetrics>
 #include <QHelpEvent>
@@ -16,6 +17,7 @@
 namespace {
 
 constexpr QSize pointerSize(32, 32);
+constexpr int restOfFinger = 800; // milliseconds until a finger counts as resting
 
 struct PointerPicture {
     const char* name;
@@ -38,6 +40,9 @@ BoardWidget::BoardWidget(QWidget* parent)
     setAccessibleDescription(QStringLiteral("The cards of the database"));
     setMouseTracking(true);
     setAttribute(Qt::WA_OpaquePaintEvent);
+    fingerRests.setSingleShot(true);
+    fingerRests.setInterval(restOfFinger);
+    connect(&fingerRests, &QTimer::timeout, this, [this] { guarded([this] { hand.rest(); }); });
     hand.whenPointerChanges([this] { showPointer(mapFromGlobal(QCursor::pos())); });
 }
 
@@ -120,16 +125,22 @@ void BoardWidget::mousePressEvent(QMouseEvent* event)
 {
     guarded([this, event] { hand.press(event->position()); });
     showPointer(event->position());
+    fingerPressed = event->position();
+    if (event->device()->type() == QInputDevice::DeviceType::TouchScreen)
+        fingerRests.start();
 }
 
 void BoardWidget::mouseMoveEvent(QMouseEvent* event)
 {
+    if ((event->position() - fingerPressed).manhattanLength() >= QApplication::startDragDistance())
+        fingerRests.stop();
     guarded([this, event] { hand.moveTo(event->position(), event->buttons() != Qt::NoButton); });
     showPointer(event->position());
 }
 
 void BoardWidget::mouseReleaseEvent(QMouseEvent* event)
 {
+    fingerRests.stop();
     guarded(
         [this, event] { hand.letGo(event->button() == Qt::RightButton, event->buttons() != Qt::NoButton); });
     showPointer(event->position());

@@ -1,7 +1,7 @@
 // The board: one widget that shows what lies on it and lets a child handle the cards and the bin.
 //
 // It holds no state of the database: it paints the session's and lets the hand change it. A finger does what
-// the mouse's left button does.
+// the mouse's left button does; one that rests on a card has it play its sound.
 #pragma once
 
 #include "board/boardPainter.h"
@@ -10,6 +10,7 @@
 #include "core/session.h"
 #include "platform/picture.h"
 
+#include <QTimer>
 #include <QWidget>
 
 #include <array>
@@ -54,6 +55,8 @@ private:
     const QIcon binDown{picturePath(QStringLiteral("binDown"))};
     Hand hand;
     Hand::Pointer pointer = Hand::Pointer::arrow;
+    QTimer fingerRests;
+    QPointF fingerPressed;
 
     // What the screen shows, to be painted over when it moves.
     std::array<QRect, lastCard + 1> shownCard;

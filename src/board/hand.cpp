@@ -186,6 +186,12 @@ void Hand::letGo(bool rightButton, bool stillPressed)
     }
 }
 
+void Hand::rest()
+{
+    if (holding && held.part == Part::card)
+        playCardSound(held.card);
+}
+
 bool Hand::openCardAt(QPointF point)
 {
     const int card = cardAt(point);

@@ -31,6 +31,8 @@ public:
     void moveTo(QPointF point, bool pressed);
     /// A button was let go; `stillPressed`: another one is held.
     void letGo(bool rightButton, bool stillPressed);
+    /// A finger rests where it pressed: plays the card's sound, as letting go of the right button does.
+    void rest();
     /// Opens the card there in the editor; false when there is none.
     bool openCardAt(QPointF point);
     /// The mouse has left the board.

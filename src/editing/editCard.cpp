@@ -74,7 +74,8 @@ editCard::editCard()
     auto* lowest = new QHBoxLayout;
     lowest->addWidget(answers);
     lowest->addStretch();
-    lowest->addWidget(videoButton(QStringLiteral("Entering Data")));
+    auto* video = videoButton(QStringLiteral("Entering Data"));
+    lowest->addWidget(video);
 
     auto* rows = new QVBoxLayout(this);
     rows->addLayout(pictureRow());
@@ -85,6 +86,7 @@ editCard::editCard()
     Cover->hide();
     rows->addLayout(pages, 1);
     rows->addLayout(lowest);
+    setTabOrder(answers->cancel, video);
     connectControls();
 }
 

@@ -17,4 +17,8 @@ groupForm::groupForm()
                labelledChoice(QStringLiteral("&Group by:"), groupCombo));
 }
 
-void groupForm::prepare() { fillFieldChoice(*groupCombo); }
+void groupForm::prepare()
+{
+    fillFieldChoice(*groupCombo);
+    groupCombo->setFocus();
+}

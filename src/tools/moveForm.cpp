@@ -54,6 +54,7 @@ void moveForm::prepare()
     for (const QString& word : arrangements())
         moveCombo->addItem(QIcon(picturePath(QStringLiteral("layout%1").arg(++number))), word);
     moveCombo->setCurrentIndex(0);
+    moveCombo->setFocus();
     showPreview();
 }
 

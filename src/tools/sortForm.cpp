@@ -57,5 +57,6 @@ sortForm::sortForm()
 void sortForm::prepare()
 {
     fillFieldChoice(*sortCombo);
+    sortCombo->setFocus();
     (session.sortDirection == QLatin1String("CBA") ? sortOptDown : sortOptUp)->setChecked(true);
 }

@@ -35,8 +35,12 @@ void layOutTool(QDialog& dialog, AnswerButtons& answers, const ToolCaption& capt
     auto* bottom = new QHBoxLayout;
     bottom->addWidget(&answers);
     bottom->addStretch(1);
-    bottom->addWidget(videoButton(caption.tutorial));
+    auto* video = videoButton(caption.tutorial);
+    bottom->addWidget(video);
     column->addLayout(bottom);
+    QWidget::setTabOrder(video, answers.ok); // the choices come first
+    QWidget::setTabOrder(answers.ok, answers.cancel);
+    QWidget::setTabOrder(answers.cancel, video);
 
     answerWith(dialog, answers.ok, QStringLiteral("OK"));
     answerWith(dialog, answers.cancel, QStringLiteral("Cancel"));

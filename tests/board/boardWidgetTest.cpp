@@ -285,7 +285,7 @@ TEST_F(Board, ADragEndsWhenAReloadGivesTheNumberToAnotherCard)
     EXPECT_EQ(session.box[2].left, 300);
 }
 
-TEST_F(Board, AFingerDragsAndOpensCards)
+TEST_F(Board, AFingerDragsHearsAndOpensCards)
 {
     const std::unique_ptr<QPointingDevice> screenDevice(QTest::createTouchDevice());
     auto touch = [&] { return QTest::touchEvent(&board, screenDevice.get()); };
@@ -298,6 +298,13 @@ TEST_F(Board, AFingerDragsAndOpensCards)
     EXPECT_EQ(session.box[2].left, 500);
     EXPECT_EQ(session.box[2].top, 400);
     EXPECT_THAT(dropped, ElementsAre(2));
+
+    putFile(inTestFolder(QStringLiteral("CARDAAA2.snd")), "sound");
+    session.dbPath = testFolder();
+    touch().press(0, QPoint(510, 415), &board);
+    EXPECT_TRUE(QTest::qWaitFor([] { return !recorded.played.isEmpty(); })) << "the finger rests";
+    touch().release(0, QPoint(510, 415), &board);
+    EXPECT_EQ(recorded.played.size(), 1);
 
     QApplication::setDoubleClickInterval(interval);
     for (int tap = 0; tap < 2; ++tap) {

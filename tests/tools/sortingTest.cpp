@@ -1,8 +1,9 @@
 #include "tools/sorting.h"
 
 #include "core/screen.h"
+#include "store/opening.h"
 #include "support/cards.h"
-#include "support/freshStart.h"
+#include "support/database.h"
 #include "tools/pacing.h"
 
 using testing::ElementsAre;
@@ -39,4 +40,22 @@ TEST_F(Sorting, PassesOverARoundThatFindsNoCard)
     EXPECT_TRUE(session.cardPlaced[2]);
     EXPECT_FALSE(session.cardPlaced[3]);
     EXPECT_TRUE(recorded.messages.isEmpty());
+}
+
+TEST_F(Sorting, OpeningAnotherDatabaseLeavesItsCardsWhereTheyAreLaid)
+{
+    openChosenFolder(writeDatabase(QStringLiteral("old"), 3));
+    const QString other = writeDatabase(QStringLiteral("new"), 3);
+    recorded.inYield = [&](int round) {
+        if (round == 3)
+            openChosenFolder(other);
+    };
+    sortTextDown(1);
+    std::vector<QPointF> lie;
+    for (int card = 1; card <= session.numCards; ++card)
+        lie.emplace_back(session.box[card].left, session.box[card].top);
+    tileCards();
+    for (int card = 1; card <= session.numCards; ++card)
+        EXPECT_EQ(lie[std::size_t(card - 1)], QPointF(session.box[card].left, session.box[card].top)) << card;
+    EXPECT_FALSE(speedWindowOpen);
 }
