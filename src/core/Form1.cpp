@@ -28,7 +28,7 @@
 
 namespace {
 
-constexpr QSize leastSize(640, 400);
+constexpr QSize leastSize(700, 400);
 
 QPushButton* bandButton(const char* name, const QString& pictureName, const QString& spokenName)
 {

@@ -5,6 +5,7 @@
 #include "core/frmNewDoc.h"
 #include "core/shutDown.h"
 #include "core/startValues.h"
+#include "platform/desktop.h"
 #include "platform/forms.h"
 #include "platform/picture.h"
 #include "platform/realDesktop.h"
@@ -48,6 +49,7 @@ void startUp()
     setStartValues();
     window.layoutWindow();
     window.showControls();
+    window.resize(desktop.screenSize() * 0.8); // when it is no longer maximised
     window.showMaximized();
     showModal(form<frmNewDoc>());
 }

@@ -36,7 +36,6 @@ QPushButton* stepButton(const char* name, const QString& icon, const QString& me
 {
     auto* button = named(new QPushButton(QIcon(picturePath(icon)), QString()), name);
     button->setAccessibleName(meaning);
-    button->setAutoDefault(false);
     button->setAutoRepeat(true);
     return button;
 }
@@ -55,7 +54,6 @@ DesignForm::DesignForm()
     setObjectName(QStringLiteral("DesignForm"));
     setWindowTitle(QStringLiteral("Design Cards"));
     mapBut->setEnabled(false); // until pictures can be laid under the cards
-    mapBut->setAutoDefault(false);
 
     auto* rows = fieldRows();
     auto* side = new QVBoxLayout;
@@ -101,7 +99,6 @@ void DesignForm::addFieldRow(QGridLayout& grid, int f)
     fieldName[f] = element(new FittedLabel, "fieldName", f);
     DataBox[f] = element(new QLabel, "DataBox", f);
     EditFieldBut[f] = element(new QPushButton(QStringLiteral("Edit")), "EditFieldBut", f);
-    EditFieldBut[f]->setAutoDefault(false);
     number[f]->setBuddy(EditFieldBut[f]);
     // It only tells that the field has a list: nothing can be picked from it here.
     pullDownBut[f] =

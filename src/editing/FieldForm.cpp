@@ -77,7 +77,6 @@ QLayout* FieldForm::nameAndType()
     for (const TypeLine& line : typeLines)
         fieldType->addItem(line.text);
     fieldType->setItemDelegate(new QStyledItemDelegate(fieldType)); // rows as high as a finger
-    BtnClear->setAutoDefault(false);
 
     auto* nameRow = new QHBoxLayout;
     nameRow->addWidget(fieldNameBox);

@@ -36,7 +36,6 @@ const QString tutorial = QStringLiteral("Newdb");
 QPushButton* stepButton(const char* name, const QString& caption)
 {
     auto* button = named(new QPushButton(caption), name);
-    button->setAutoDefault(false);
     return button;
 }
 

@@ -124,7 +124,6 @@ void editCard::addFieldRow(QGridLayout& grid, int f)
     DataBox[f] = element(new QLineEdit, "DataBox", f);
     pullDownBut[f] =
         element(new QPushButton(QIcon(picturePath(QStringLiteral("pullDown"))), QString()), "pullDownBut", f);
-    pullDownBut[f]->setAutoDefault(false);
     QSizePolicy place = pullDownBut[f]->sizePolicy();
     place.setRetainSizeWhenHidden(true); // the boxes stay in line
     pullDownBut[f]->setSizePolicy(place);
@@ -179,7 +178,8 @@ void editCard::load()
 void editCard::showCard()
 {
     setWindowTitle(QStringLiteral("Edit Card ") + QString::number(session.selectedCard));
-    Picture1->setVisible(session.Picture1.visible);
+    for (QWidget* part : std::initializer_list<QWidget*>{Monitor, Tip2})
+        part->setVisible(session.Picture1.visible); // with the picture in it
     for (int f = 1; f <= session.numFields; ++f)
         DataBox[f]->setText(session.DataBox[f]);
     layoutFieldBoxes();

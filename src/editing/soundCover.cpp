@@ -13,7 +13,6 @@ namespace {
 QPushButton* soundButton(const char* name, const QString& caption)
 {
     auto* button = named(new QPushButton(caption), name);
-    button->setAutoDefault(false);
     button->setEnabled(false);
     return button;
 }

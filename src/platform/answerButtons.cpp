@@ -3,6 +3,7 @@
 #include "platform/dialogParts.h"
 #include "platform/picture.h"
 
+#include <QEvent>
 #include <QHBoxLayout>
 #include <QIcon>
 
@@ -39,7 +40,6 @@ AnswerButtons::AnswerButtons(const Answer& okAnswer, const Answer& cancelAnswer)
     row->setContentsMargins({});
     row->addWidget(ok);
     row->addWidget(cancel);
-    ok->setDefault(true);
     showFrame(0);
     Timer1->setInterval(frameTime);
     connect(Timer1, &QTimer::timeout, this, [this] { showFrame((frame + 1) % frames); });
@@ -62,6 +62,14 @@ AnswerDialog::AnswerDialog(AnswerButtons* buttons)
     // A minimised dialog leaves a dead main window; one as large as the screen tears its parts apart.
     setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowCloseButtonHint);
     answers->setParent(this);
+    answers->ok->setDefault(true); // only now does the dialog learn which button Return presses
+}
+
+void AnswerDialog::changeEvent(QEvent* event)
+{
+    QDialog::changeEvent(event);
+    if (event->type() == QEvent::WindowStateChange && isMinimized())
+        showNormal(); // some window managers put it aside all the same, and nothing else can be used
 }
 
 void AnswerDialog::reject() { answers->cancel->click(); }

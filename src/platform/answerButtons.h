@@ -14,7 +14,6 @@ struct Answer {
 class AnswerButtons : public QWidget {
     Q_OBJECT
 public:
-    /// Return presses OK.
     explicit AnswerButtons(const Answer& okAnswer = {"ok_but", QStringLiteral("OK")},
                            const Answer& cancelAnswer = {"cancel_but", QStringLiteral("Cancel")});
 
@@ -32,7 +31,8 @@ private:
     int frame = 0;
 };
 
-/// A dialog that is left by one of its two answers: Escape and the frame's close box press Cancel.
+/// A dialog that is left by one of its two answers: Escape and the frame's close box press Cancel, Return the
+/// button that has the focus, else OK.
 class AnswerDialog : public QDialog {
     Q_OBJECT
 public:
@@ -40,6 +40,7 @@ public:
 
 protected:
     explicit AnswerDialog(AnswerButtons* buttons);
+    void changeEvent(QEvent* event) override;
 
     AnswerButtons* const answers; // for the dialog to lay out
 };

@@ -56,7 +56,6 @@ QPushButton* videoButton(const QString& tutorial)
     auto* button = named(new QPushButton(QStringLiteral("Watch a video")), "BtnVid");
     button->setIcon(QIcon(picturePath(QStringLiteral("welcomeVideo"))));
     button->setProperty("role", QStringLiteral("video"));
-    button->setAutoDefault(false);
     onClick(button, [tutorial] { ignoringErrors({[&] { startTutorial(tutorial); }}); });
     return button;
 }

@@ -60,7 +60,6 @@ QPushButton* wayButton(const char* name, const QString& pictureName, const QStri
     auto* button = named(new QPushButton, name);
     button->setIcon(QIcon(picturePath(pictureName)));
     button->setAccessibleName(tip);
-    button->setAutoDefault(false);
     giveHint(*button, tip);
     return button;
 }

@@ -28,6 +28,7 @@ const QString lastKey = QStringLiteral("Path");
 
 void openFolder(const QString& folder)
 {
+    session.animationStopped = true; // a run that yields to us would let these cards fly to others' places
     session.dbPath = folder;
     updateTitle();
     sweepLeftovers(folder);

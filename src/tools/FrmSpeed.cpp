@@ -13,6 +13,7 @@
 #include <QGridLayout>
 #include <QPointer>
 #include <QSlider>
+#include <QWindow>
 
 namespace {
 
@@ -45,7 +46,7 @@ FrmSpeed::FrmSpeed()
 {
     setObjectName(QStringLiteral("FrmSpeed"));
     setWindowTitle(QStringLiteral("Speed"));
-    setWindowFlags(Qt::Tool | Qt::WindowStaysOnTopHint | Qt::WindowTitleHint | Qt::WindowCloseButtonHint);
+    setWindowFlags(Qt::Tool | Qt::WindowTitleHint | Qt::WindowCloseButtonHint);
     setAttribute(Qt::WA_ShowWithoutActivating);
 
     Slider1->setRange(1, 9);
@@ -112,6 +113,9 @@ void installSpeedWindow(QWidget& mainWindow)
         speed.adjustSize();
         if (main) {
             const double right = main->width() - speed.width() - 240 / session.twipsPerPixelX;
+            // Above the main window, but not above the dialogs that open meanwhile.
+            speed.winId();
+            speed.windowHandle()->setTransientParent(main->windowHandle());
             speed.move(main->mapToGlobal(QPoint(int(right), 120 / session.twipsPerPixelY)));
         }
         speed.show();

@@ -11,6 +11,7 @@
 
 #include <QFile>
 
+#include <algorithm>
 #include <cmath>
 
 namespace {
@@ -46,7 +47,10 @@ void scatterCards()
 void showBin()
 {
     showCardMode();
-    session.BigBin.visible = true;
+    Bin& bin = session.BigBin;
+    bin.left = std::clamp(bin.left, 0.0, std::max(0.0, session.boardWidth - bin.width));
+    bin.top = std::clamp(bin.top, 0.0, std::max(0.0, session.boardHeight - bin.height));
+    bin.visible = true;
     screen.redrawBoard();
 }
 

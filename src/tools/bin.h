@@ -3,7 +3,7 @@
 
 #include <QString>
 
-/// Changes to the cards and shows the bin behind them.
+/// Changes to the cards and shows the bin behind them, wholly on the board.
 void showBin();
 
 /// Whether the card's centre lies within the bin's rectangle, with the bin in view.

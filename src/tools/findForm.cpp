@@ -100,7 +100,6 @@ void findForm::makeRow(int row)
     made.pullDownBut->setObjectName(numbered("pullDownBut", row));
     made.pullDownBut->setAccessibleName(ofCondition(QStringLiteral("Answers"), row));
     made.pullDownBut->setIcon(QIcon(picturePath(QStringLiteral("pullDown"))));
-    made.pullDownBut->setAutoDefault(false);
 
     connect(made.fieldCombo, &QComboBox::currentIndexChanged, this,
             [this, row] { guarded([=, this] { fieldPicked(row); }); });

@@ -3,7 +3,8 @@
 #include "platform/balloon.h"
 #include "support/freshStart.h"
 
-#include <QCoreApplication>
+#include <QApplication>
+#include <QLineEdit>
 #include <QTest>
 #include <QVBoxLayout>
 
@@ -36,6 +37,24 @@ TEST_F(DialogParts, KeysAndTheCloseBoxPressTheAnswers)
     question.close();
     const QString no = QStringLiteral("NoBut");
     EXPECT_EQ(question.given, QStringList({QStringLiteral("YesBut"), no, no}));
+}
+
+TEST_F(DialogParts, ReturnInATextIsYesWhicheverButtonHadTheFocusBefore)
+{
+    Question question;
+    QLineEdit text;
+    question.layout()->addWidget(&text);
+    question.show();
+    QApplication::setActiveWindow(&question);
+    for (QPushButton* passed : {question.buttons.ok, question.buttons.cancel}) {
+        passed->setFocus();
+        text.setFocus();
+        QTest::keyClick(&text, Qt::Key_Return);
+    }
+    question.buttons.cancel->setFocus();
+    QTest::keyClick(question.buttons.cancel, Qt::Key_Return);
+    const QString yes = QStringLiteral("YesBut");
+    EXPECT_EQ(question.given, QStringList({yes, yes, QStringLiteral("NoBut")}));
 }
 
 TEST_F(DialogParts, TheIconsMoveOnlyWhileTheyAreInView)
