@@ -20,7 +20,11 @@ constexpr int faceColumn = 1;
 constexpr int headerLines = 2;
 constexpr int headerPadding = 10; // left and right of a name together, with the line between columns
 
-QString plainHint(const QString& text) { return Qt::convertFromPlainText(text, Qt::WhiteSpaceNormal); }
+/// The hint that shows the text as it is; none for an empty one.
+QString plainHint(const QString& text)
+{
+    return text.isEmpty() ? QString() : Qt::convertFromPlainText(text, Qt::WhiteSpaceNormal);
+}
 
 /// Paints a face as it is, from the cell's upper left corner.
 class FaceDelegate : public QStyledItemDelegate {

@@ -35,8 +35,7 @@ const QString tutorial = QStringLiteral("Newdb");
 
 QPushButton* stepButton(const char* name, const QString& caption)
 {
-    auto* button = named(new QPushButton(caption), name);
-    return button;
+    return named(new QPushButton(caption), name);
 }
 
 QAction* entry(const char* name, const QString& caption, const std::function<void()>& routine)
