@@ -57,7 +57,7 @@ void paintCaption(QPainter& painter, const BoardLook& look, const BoardLabel& la
         return;
     const QRect place = roundedRect(label);
     const QFontMetrics metrics(look.captionFont);
-    const QString text = metrics.elidedText(label.text, Qt::ElideRight, place.width());
+    const QString text = metrics.elidedText(label.text.trimmed(), Qt::ElideRight, place.width());
     const int left = place.left() + (place.width() - metrics.horizontalAdvance(text)) / 2;
     const int baseline = place.top() + (place.height() - metrics.height()) / 2 + metrics.ascent();
     QPainterPath letters;

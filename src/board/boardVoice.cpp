@@ -34,6 +34,8 @@ const BoardLabel& caption(int item)
 
 bool isShown(int item)
 {
+    if (session.tablePanel.visible) // it covers the board
+        return false;
     if (isCard(item))
         return session.box[item].visible;
     if (isCaption(item))
@@ -43,8 +45,10 @@ bool isShown(int item)
 
 QString nameOf(int item)
 {
-    if (isCard(item))
-        return session.box[item].tooltip;
+    if (isCard(item)) {
+        const QString& label = session.box[item].tooltip;
+        return label.isEmpty() ? QStringLiteral("Card %1").arg(item) : label;
+    }
     return isCaption(item) ? caption(item).text : QStringLiteral("Bin");
 }
 
@@ -132,7 +136,8 @@ public:
         state.invalid = !isValid();
         state.invisible = !board || !board->isVisible();
         state.selectable = state.focusable = state.movable = isCard(item);
-        state.selected = state.focused = isSelected(item);
+        state.selected = isSelected(item);
+        state.focused = state.selected && board && board->hasFocus();
         state.readOnly = isCaption(item);
         return state;
     }
@@ -171,7 +176,10 @@ public:
     {
         return voice.itemAt(widget()->mapFromGlobal(QPoint(x, y)));
     }
-    QAccessibleInterface* focusChild() const override { return voice.selectedItem(); }
+    QAccessibleInterface* focusChild() const override
+    {
+        return widget()->hasFocus() ? voice.selectedItem() : nullptr;
+    }
 
 private:
     BoardVoice& voice;
@@ -250,7 +258,8 @@ void BoardVoice::followSelection()
     if (selection == 0)
         return;
     tell(selection, QAccessible::Selection);
-    tell(selection, QAccessible::Focus); // makes a screen reader say the card
+    if (board.hasFocus())
+        tell(selection, QAccessible::Focus); // makes a screen reader say the card
 }
 
 void BoardVoice::forget(int item)

@@ -39,6 +39,7 @@ BoardWidget::BoardWidget(QWidget* parent)
     setAccessibleName(QStringLiteral("Board"));
     setAccessibleDescription(QStringLiteral("The cards of the database"));
     setMouseTracking(true);
+    setFocusPolicy(Qt::ClickFocus);
     setAttribute(Qt::WA_OpaquePaintEvent);
     fingerRests.setSingleShot(true);
     fingerRests.setInterval(restOfFinger);

@@ -20,6 +20,9 @@ constexpr int faceColumn = 1;
 constexpr int headerLines = 2;
 constexpr int headerPadding = 10; // left and right of a name together, with the line between columns
 
+/// The row of cells, from 0, that shows the last card; less where it was scrolled out of view.
+int rowOfLastCard() { return session.numCards - session.gridScroll.value - 1; }
+
 /// The hint that shows the text as it is; none for an empty one.
 QString plainHint(const QString& text)
 {
@@ -130,6 +133,7 @@ void TableGridWidget::keyPressEvent(QKeyEvent* event)
     switch (event->key()) {
     case Qt::Key_PageDown:
         scrollWanted(page);
+        keepOnCards();
         return;
     case Qt::Key_PageUp:
         scrollWanted(-page);
@@ -139,8 +143,11 @@ void TableGridWidget::keyPressEvent(QKeyEvent* event)
         return;
     case Qt::Key_End:
         scrollWanted(session.numCards - 1 - session.gridScroll.value);
+        keepOnCards();
         return;
     case Qt::Key_Down:
+        if (currentRow() >= rowOfLastCard())
+            return;
         if (currentRow() >= lastFullRow) {
             scrollWanted(1);
             return;
@@ -156,6 +163,14 @@ void TableGridWidget::keyPressEvent(QKeyEvent* event)
         break;
     }
     QTableWidget::keyPressEvent(event);
+}
+
+/// The cell with the keyboard is one of a card.
+void TableGridWidget::keepOnCards()
+{
+    const int last = std::max(rowOfLastCard(), 0);
+    if (currentRow() > last)
+        setCurrentCell(last, currentColumn());
 }
 
 void TableGridWidget::wheelEvent(QWheelEvent* event) { event->ignore(); } // the panel scrolls

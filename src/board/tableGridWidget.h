@@ -27,4 +27,5 @@ protected:
 private:
     void showName(int column, const QString& name);
     void showRow(int row);
+    void keepOnCards();
 };

@@ -193,6 +193,7 @@ void DesignForm::layoutDesignFields()
     for (int f = 1; f <= lastField; ++f)
         showField(f);
     cardSizeRadio[session.cardSize]->setChecked(true);
+    letTabFindTheChosen({cardSizeRadio[0], cardSizeRadio[1], cardSizeRadio[2]});
 }
 
 void DesignForm::showField(int f)

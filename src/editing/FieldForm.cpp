@@ -15,6 +15,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QScrollArea>
+#include <QScrollBar>
 #include <QStyledItemDelegate>
 
 namespace {
@@ -149,8 +150,10 @@ void FieldForm::offerList(bool offered)
         possAnswer[item]->clear();
     AnswerHolder->setVisible(offered);
     listLabel->setVisible(offered);
-    if (offered)
-        possAnswer[1]->setFocus();
+    if (!offered)
+        return;
+    Scroller1->verticalScrollBar()->setValue(0);
+    possAnswer[1]->setFocus();
 }
 
 void FieldForm::fill(const FieldDefinition& definition)
@@ -163,6 +166,7 @@ void FieldForm::fill(const FieldDefinition& definition)
     UseList->setChecked(definition.useList);
     for (int item = 1; item <= 12; ++item)
         possAnswer[item]->setText(definition.answers[item]);
+    Scroller1->verticalScrollBar()->setValue(0); // not where the field before was left
     fieldNameBox->setFocus();
 }
 

@@ -51,6 +51,12 @@ void onToggle(QAbstractButton* button, const std::function<void(bool)>& handler)
                      [handler](bool ticked) { guarded([&] { handler(ticked); }); });
 }
 
+void letTabFindTheChosen(std::initializer_list<QAbstractButton*> options)
+{
+    for (QAbstractButton* option : options)
+        option->setFocusPolicy(option->isChecked() ? Qt::StrongFocus : Qt::ClickFocus);
+}
+
 QPushButton* videoButton(const QString& tutorial)
 {
     auto* button = named(new QPushButton(QStringLiteral("Watch a video")), "BtnVid");

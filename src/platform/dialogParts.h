@@ -33,6 +33,9 @@ void onClickLater(QAbstractButton* button, const std::function<void()>& handler)
 /// Runs the handler whenever the button is ticked or unticked, by hand or by the program.
 void onToggle(QAbstractButton* button, const std::function<void(bool ticked)>& handler);
 
+/// Tab leads to the option that is chosen. Qt sees to that itself only once one of them has had the focus.
+void letTabFindTheChosen(std::initializer_list<QAbstractButton*> options);
+
 /// "Watch a video": starts the tutorial of that name ("Entering Data") and passes over any error.
 QPushButton* videoButton(const QString& tutorial);
 

@@ -42,6 +42,13 @@ QComboBox* dropDown(const QString& name, QWidget* parent)
     return box;
 }
 
+/// A combo box gives screen readers its choice for its name, once there is one.
+void nameForReaders(QComboBox& box, const QString& name)
+{
+    box.setAccessibleName(name);
+    box.setAccessibleDescription(name);
+}
+
 /// "Value of condition 2", as assistive technology names the control.
 QString ofCondition(const QString& what, int row)
 {
@@ -88,10 +95,10 @@ void findForm::makeRow(int row)
     const auto at = std::size_t(row);
     Row& made = rows[at];
     made.fieldCombo = dropDown(numbered("fieldCombo", row), this);
-    made.fieldCombo->setAccessibleName(ofCondition(QStringLiteral("Field"), row));
+    nameForReaders(*made.fieldCombo, ofCondition(QStringLiteral("Field"), row));
     made.fieldCombo->setPlaceholderText(QStringLiteral("field"));
     made.compBox = dropDown(numbered("compBox", row), this);
-    made.compBox->setAccessibleName(ofCondition(QStringLiteral("Comparison"), row));
+    nameForReaders(*made.compBox, ofCondition(QStringLiteral("Comparison"), row));
     made.compBox->setPlaceholderText(QStringLiteral("how"));
     made.valBox = new QLineEdit(this);
     made.valBox->setObjectName(numbered("valBox", row));
@@ -116,7 +123,7 @@ void findForm::makeJoin(int join)
 {
     QComboBox* box = dropDown(numbered("andOr", join), this);
     andOr[std::size_t(join)] = box;
-    box->setAccessibleName(ofCondition(QStringLiteral("Joining word"), join + 1));
+    nameForReaders(*box, ofCondition(QStringLiteral("Joining word"), join + 1));
     connect(box, &QComboBox::currentIndexChanged, this,
             [this, join] { guarded([=, this] { joinPicked(join); }); });
 }

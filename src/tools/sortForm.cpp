@@ -59,4 +59,5 @@ void sortForm::prepare()
     fillFieldChoice(*sortCombo);
     sortCombo->setFocus();
     (session.sortDirection == QLatin1String("CBA") ? sortOptDown : sortOptUp)->setChecked(true);
+    letTabFindTheChosen({sortOptUp, sortOptDown});
 }

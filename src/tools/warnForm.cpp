@@ -66,6 +66,8 @@ void warnForm::askAbout(int card)
     DiBoxCaption->ensurePolished();
     DiBoxCaption->setText(DiBoxCaption->fontMetrics().elidedText(question, Qt::ElideMiddle, room));
     DiBoxCaption->setAccessibleName(question);
+    answers->cancel->setDefault(true); // a stray Return spares the card
+    answers->cancel->setFocus();
     setMinimumWidth(int(leastWidth / session.twipsPerPixelX));
     layout()->invalidate(); // a caption that was never shown doesn't tell its layout of its growth
     layout()->activate();

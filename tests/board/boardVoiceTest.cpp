@@ -6,7 +6,7 @@
 #include "support/freshStart.h"
 
 #include <QAccessible>
-#include <QCoreApplication>
+#include <QApplication>
 
 using testing::ElementsAre;
 using testing::Pair;
@@ -85,16 +85,22 @@ TEST_F(BoardForAssistiveTechnology, TellsWhatComesGoesAndIsRenamed)
 
 TEST_F(BoardForAssistiveTechnology, AnnouncesTheSelectedCard)
 {
+    QApplication::setActiveWindow(&board);
+    board.setFocus();
     session.selectedCard = 2;
     markCard(2);
     EXPECT_THAT(told, ElementsAre(Pair(2, QAccessible::Selection), Pair(2, QAccessible::Focus)));
     EXPECT_TRUE(list().child(1)->state().selected);
     EXPECT_FALSE(list().child(0)->state().selected);
+    EXPECT_TRUE(list().child(1)->state().focused);
     EXPECT_EQ(list().focusChild(), list().child(1));
 
     session.SelectBox.visible = false; // as a click on the bare board leaves it
     screen.redrawBoard();
     EXPECT_FALSE(list().child(1)->state().selected);
+    session.tablePanel.visible = true; // covers the board
+    screen.redrawBoard();
+    EXPECT_EQ(list().childCount(), 0);
 }
 
 TEST_F(BoardForAssistiveTechnology, CardsAreSelectedEditedAndPlayedWithoutAMouse)
