@@ -1,6 +1,7 @@
 #include "board/boardWidget.h"
 
 #include "core/screen.h"
+#include "platform/balloon.h"
 #include "platform/picture.h"
 
 #include <QApplication>
@@ -11,7 +12,6 @@
 #include <QPaintEvent>
 #include <QPainter>
 #include <QPointer>
-#include <QTextDocument>
 #include <QToolTip>
 
 namespace {
@@ -188,10 +188,9 @@ bool BoardWidget::event(QEvent* event)
 void BoardWidget::showTip(const QHelpEvent& help)
 {
     const int card = cardAt(help.pos());
-    const QString label = card == 0 ? QString() : session.box[card].tooltip;
-    if (label.isEmpty())
+    const QString hint = card == 0 ? QString() : plainHint(session.box[card].tooltip);
+    if (hint.isEmpty())
         QToolTip::hideText();
     else
-        QToolTip::showText(help.globalPos(), Qt::convertFromPlainText(label, Qt::WhiteSpaceNormal), this,
-                           wholePixels(session.box[card]));
+        QToolTip::showText(help.globalPos(), hint, this, wholePixels(session.box[card]));
 }

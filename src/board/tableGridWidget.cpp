@@ -2,6 +2,7 @@
 
 #include "board/tableView.h"
 #include "core/session.h"
+#include "platform/balloon.h"
 #include "platform/errors.h"
 #include "platform/textLines.h"
 
@@ -11,7 +12,6 @@
 #include <QMimeData>
 #include <QPainter>
 #include <QStyledItemDelegate>
-#include <QTextDocument>
 #include <QWheelEvent>
 
 namespace {
@@ -22,12 +22,6 @@ constexpr int headerPadding = 10; // left and right of a name together, with the
 
 /// The row of cells, from 0, that shows the last card; less where it was scrolled out of view.
 int rowOfLastCard() { return session.numCards - session.gridScroll.value - 1; }
-
-/// The hint that shows the text as it is; none for an empty one.
-QString plainHint(const QString& text)
-{
-    return text.isEmpty() ? QString() : Qt::convertFromPlainText(text, Qt::WhiteSpaceNormal);
-}
 
 /// Paints a face as it is, from the cell's upper left corner.
 class FaceDelegate : public QStyledItemDelegate {

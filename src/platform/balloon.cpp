@@ -2,6 +2,7 @@
 
 #include <QCursor>
 #include <QEvent>
+#include <QTextDocument>
 #include <QToolTip>
 #include <QWidget>
 
@@ -38,6 +39,11 @@ void showHint(QWidget& owner, const QString& text)
 }
 
 void endHint() { QToolTip::hideText(); }
+
+QString plainHint(const QString& text)
+{
+    return text.isEmpty() ? QString() : Qt::convertFromPlainText(text, Qt::WhiteSpaceNormal);
+}
 
 QString hintInView() { return QToolTip::isVisible() ? QToolTip::text() : QString(); }
 

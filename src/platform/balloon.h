@@ -9,6 +9,8 @@ class QWidget;
 /// something is clicked or typed, and after a while.
 void showHint(QWidget& owner, const QString& text);
 void endHint();
+/// The hint that shows a pupil's text as it was typed, whatever mark-up it looks like; none for an empty one.
+QString plainHint(const QString& text);
 /// The hint in view, empty when there is none.
 QString hintInView();
 

@@ -7,7 +7,6 @@
 #include <QPainter>
 #include <QStyle>
 #include <QStyleOption>
-#include <QTextDocument>
 
 FittedLabel::FittedLabel()
 {
@@ -27,7 +26,7 @@ bool FittedLabel::event(QEvent* event)
     const bool handled = QLabel::event(event);
     const bool asked = event->type() == QEvent::Enter || event->type() == QEvent::MouseButtonPress;
     if (asked && textInView().contains(QChar(0x2026)))
-        showHint(*this, Qt::convertFromPlainText(text(), Qt::WhiteSpaceNormal));
+        showHint(*this, plainHint(text()));
     return handled;
 }
 

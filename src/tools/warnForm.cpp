@@ -37,6 +37,7 @@ warnForm::warnForm()
     setObjectName(QStringLiteral("warnForm"));
     setWindowTitle(QStringLiteral("Delete Card"));
     DiBoxCaption->setTextFormat(Qt::PlainText);
+    answers->cancel->setDefault(true); // a stray Return spares the card
 
     auto* question = new QHBoxLayout;
     question->setSpacing(captionGap);
@@ -66,7 +67,6 @@ void warnForm::askAbout(int card)
     DiBoxCaption->ensurePolished();
     DiBoxCaption->setText(DiBoxCaption->fontMetrics().elidedText(question, Qt::ElideMiddle, room));
     DiBoxCaption->setAccessibleName(question);
-    answers->cancel->setDefault(true); // a stray Return spares the card
     answers->cancel->setFocus();
     setMinimumWidth(int(leastWidth / session.twipsPerPixelX));
     layout()->invalidate(); // a caption that was never shown doesn't tell its layout of its growth

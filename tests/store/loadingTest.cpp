@@ -82,12 +82,11 @@ TEST_F(Loading, AReloadEndsAsAFullLoadWhateverWasPassedOver)
     EXPECT_FALSE(session.box[1].picture.isNull());
     EXPECT_EQ(boardDrawn, 2);
 
-    QFile description(path(QStringLiteral("db-info.tdb")));
-    putFile(description.fileName(), bytesOf(description.fileName()).replace("none", ""));
+    const QString description = path(QStringLiteral("db-info.tdb"));
+    putFile(description, bytesOf(description).replace("none", ""));
     loadAllCards();
     EXPECT_EQ(boardDrawn, 2) << "no background instead of none";
-    putFile(description.fileName(),
-            bytesOf(description.fileName()).replace("\"\"", '"' + cardName(1).toLatin1() + ".bmp\""));
+    putFile(description, bytesOf(description).replace("\"\"", '"' + cardName(1).toLatin1() + ".bmp\""));
     loadAllCards();
     EXPECT_EQ(boardDrawn, 3) << "a background has come";
 

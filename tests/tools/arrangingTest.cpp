@@ -2,11 +2,7 @@
 
 #include "support/freshStart.h"
 
-namespace {
-
-class Arranging : public Fresh {};
-
-} // namespace
+using Arranging = Fresh;
 
 TEST_F(Arranging, OfNoCardsDoesNothing)
 {

@@ -4,11 +4,7 @@
 #include "platform/errors.h"
 #include "support/freshStart.h"
 
-namespace {
-
-class Conditions : public Fresh {};
-
-} // namespace
+using Conditions = Fresh;
 
 TEST_F(Conditions, ReadTheFieldFromTheTagAndRefuseOneOutsideTheTable)
 {
