@@ -2,7 +2,7 @@
 
 #include <cstddef>
 
-// The C library's own functions, by the names under which it keeps them for those who put others before them.
+// The C library's own functions, under the names that it provides for programs which replace malloc.
 extern "C" {
 void* __libc_malloc(std::size_t size);
 void* __libc_calloc(std::size_t count, std::size_t size);

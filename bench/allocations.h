@@ -1,7 +1,7 @@
-// Counts what is taken from the heap, by whatever way.
+// Counts heap allocations of every kind.
 #pragma once
 
-/// From here on this thread's allocations are counted, from 0.
+/// Starts counting this thread's allocations, from 0.
 void countAllocations();
-/// Ends the counting and tells the count.
+/// Stops counting and returns the count.
 long allocationsCounted();

@@ -1,4 +1,4 @@
-// The least that can be shown: a coloured rectangle moves over a bare widget.
+// The minimum to compare with: a coloured rectangle moves over a bare widget.
 #pragma once
 
 #include <QPainter>
@@ -8,7 +8,7 @@ class BareWidget : public QWidget {
 public:
     BareWidget() { setAttribute(Qt::WA_OpaquePaintEvent); }
 
-    /// Moves the rectangle and has both places painted.
+    /// Moves the rectangle and repaints both places.
     void moveCard(QPoint place)
     {
         left = card;

@@ -1,4 +1,4 @@
-// The benchmarks, offscreen, so that the screen's own speed has no part in them.
+// The benchmarks. They run offscreen, so that the speed of the display has no influence.
 #include "startBench.h"
 
 #include <benchmark/benchmark.h>

@@ -1,8 +1,8 @@
-// The file dialog on a folder of 5,000 entries, until its eight icons tell what they stand for.
+// The file dialog on a folder of 5,000 entries, until its eight icons are complete.
 #include "fullFolder.h"
 
-#include "platform/forms.h"
-#include "store/FileForm.h"
+#include "controls/forms.h"
+#include "database/FileForm.h"
 
 #include <benchmark/benchmark.h>
 
@@ -16,16 +16,18 @@
 #include <algorithm>
 #include <filesystem>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 namespace fs = std::filesystem;
 
 constexpr int entries = 5000;
-const QString description = QStringLiteral("/db-info.tdb");
+const QString description = u"/db-info.tdb"_s;
 
-QString nameOf(int entry) { return QStringLiteral("Folder %1").arg(entry, 4, 10, QLatin1Char('0')); }
+QString nameOf(int entry) { return u"Folder %1"_s.arg(entry, 4, 10, '0'_L1); }
 
-/// As many folders; the first eight, which are in view, are databases.
+/// A folder with that many folders; the first eight, which are in view, are databases.
 QString crowdedFolder()
 {
     static const QTemporaryDir place;
@@ -52,8 +54,7 @@ void dialogFloor(benchmark::State& state)
         }
         names.sort(Qt::CaseInsensitive);
         for (int entry = 0; entry < FolderWalk::slotCount; ++entry)
-            benchmark::DoNotOptimize(
-                fs::exists((folder + QLatin1Char('/') + names[entry] + description).toStdString()));
+            benchmark::DoNotOptimize(fs::exists((folder + u'/' + names[entry] + description).toStdString()));
     }
 }
 BENCHMARK(dialogFloor)->Unit(benchmark::kMillisecond)->UseRealTime();
@@ -61,7 +62,7 @@ BENCHMARK(dialogFloor)->Unit(benchmark::kMillisecond)->UseRealTime();
 bool allKnown(const FileForm& dialog)
 {
     return std::all_of(dialog.iconBox.begin(), dialog.iconBox.end(), [](const QToolButton* icon) {
-        return icon->accessibleName().endsWith(QLatin1String("database"));
+        return icon->accessibleName().endsWith("database"_L1);
     });
 }
 
@@ -77,7 +78,7 @@ void fillDialog(benchmark::State& state)
         dialog.show();
         QCoreApplication::processEvents();
         state.ResumeTiming();
-        dialog.choose(QStringLiteral("Open Database"), folder, QStringLiteral("*.none"));
+        dialog.choose({u"Open Database"_s, u"*.none"_s, true}, folder);
         while (!allKnown(dialog))
             QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
         QCoreApplication::processEvents();

@@ -3,12 +3,12 @@
 #include "fullFolder.h"
 
 #include "board/boardWidget.h"
-#include "board/refresh.h"
-#include "core/Form1.h"
+#include "controls/forms.h"
 #include "core/session.h"
-#include "platform/forms.h"
-#include "store/opening.h"
+#include "database/opening.h"
+#include "database/refresh.h"
 #include "support/slowMount.h"
+#include "window/Form1.h"
 
 #include <benchmark/benchmark.h>
 
@@ -16,6 +16,8 @@
 #include <QElapsedTimer>
 #include <QMouseEvent>
 #include <QTimer>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -29,7 +31,7 @@ void send(QWidget& board, QEvent::Type type, QPointF at, Qt::MouseButton button,
     QCoreApplication::sendEvent(&board, &event);
 }
 
-/// Drags card 1 over all others and tells the longest that a single move took, in ms.
+/// Drags card 1 over all others and returns the duration of the slowest single move, in ms.
 double drag(QWidget& board)
 {
     const QPointF grip(session.box[1].left + 10, session.box[1].top + 20);
@@ -68,7 +70,7 @@ void dragOver(benchmark::State& state, const QString& folder)
 {
     startFresh();
     openChosenFolder(fullFolder());
-    session.dbPath = folder; // what the mouse asks about sounds goes here
+    session.dbPath = folder; // look-ups of sounds go to this folder
     QCoreApplication::processEvents();
     double longest = 0;
     for (auto _ : state)
@@ -80,12 +82,12 @@ void dragOver(benchmark::State& state, const QString& folder)
 void dragOverFullBoard(benchmark::State& state) { dragOver(state, fullFolder()); }
 BENCHMARK(dragOverFullBoard)->Unit(benchmark::kMillisecond);
 
-/// With ticks of the refresh far closer than they are, so that many fall into each drag.
+/// With a much shorter refresh interval, so that many ticks fall into each drag.
 void dragDuringRefresh(benchmark::State& state)
 {
     startFresh();
     openChosenFolder(fullFolder());
-    setRefresh(QStringLiteral("On"));
+    setRefresh(u"On"_s);
     const int interval = refreshTimer().interval();
     refreshTimer().setInterval(manyTicks);
     long ticks = 0;

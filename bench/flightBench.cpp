@@ -1,20 +1,22 @@
-// A card flying over a full board, and the rules of sort, group and find without flights. On a screen the
-// window system takes its share of each round: run these under a virtual one too.
+// A card flying over a full board at the pace that every machine keeps, the same without that pace, and the
+// rules of sort, group and find without flights. On a screen the window system takes its share of each round:
+// run these under a virtual one too.
 #include "allocations.h"
 #include "bareWidget.h"
 #include "fullFolder.h"
 
 #include "board/boardWidget.h"
-#include "core/Form1.h"
-#include "core/screen.h"
+#include "controls/forms.h"
+#include "core/mainView.h"
 #include "core/session.h"
+#include "database/opening.h"
 #include "platform/desktop.h"
-#include "platform/forms.h"
-#include "store/opening.h"
+#include "platform/realDesktop.h"
 #include "tools/conditions.h"
 #include "tools/flight.h"
 #include "tools/grouping.h"
 #include "tools/sorting.h"
+#include "window/Form1.h"
 
 #include <benchmark/benchmark.h>
 
@@ -22,7 +24,10 @@
 #include <QWindow>
 
 #include <algorithm>
+#include <functional>
 #include <vector>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -72,24 +77,23 @@ void openFullBoard()
     startFresh();
     openChosenFolder(fullFolder());
     waitUntilShown(form<Form1>());
-    session.animationSpeed = 1;
-    session.animationStopped = false;
+    session.run.animationSpeed = 1;
+    session.run.stopped = false;
 }
 
 void putCardAtStart()
 {
     session.box[1].left = farLeft;
     session.box[1].top = top;
-    screen.redrawCard(1);
+    mainView.redrawCard(1);
     QCoreApplication::processEvents();
 }
 
-/// From the left to the right of a board on which 98 other cards lie, in the steps of the usual speed.
-void flight(benchmark::State& state)
+/// From the left to the right of a board on which 98 other cards lie, in the steps of twice the usual speed.
+void flight(benchmark::State& state, const std::function<void()>& yield)
 {
     openFullBoard();
     long rounds = 0;
-    const auto yield = desktop.yield;
     desktop.yield = [&] {
         ++rounds;
         yield();
@@ -106,18 +110,32 @@ void flight(benchmark::State& state)
         paints += counter.paints;
     }
     form<Form1>().board->removeEventFilter(&counter);
-    state.SetItemsProcessed(rounds);
-    state.counters["paints a round"] = double(paints) / double(rounds);
+    state.counters["rounds"] = benchmark::Counter(double(rounds), benchmark::Counter::kIsRate);
+    state.counters["paints"] = benchmark::Counter(double(paints), benchmark::Counter::kIsRate);
 }
-BENCHMARK(flight)->Unit(benchmark::kMillisecond)->UseRealTime();
 
-/// The flight alone: nothing is shown.
+/// Real time against processor time tells how busy waiting keeps the processor.
+void pacedFlight(benchmark::State& state)
+{
+    installDesktop();
+    flight(state, desktop.yield);
+}
+BENCHMARK(pacedFlight)->Unit(benchmark::kMillisecond)->UseRealTime()->MeasureProcessCPUTime();
+
+/// As fast as rounds can follow one another.
+void flightWithoutPace(benchmark::State& state)
+{
+    flight(state, [] { QCoreApplication::processEvents(); });
+}
+BENCHMARK(flightWithoutPace)->Unit(benchmark::kMillisecond)->UseRealTime();
+
+/// The flight only, without painting.
 void flightWithEmptyYield(benchmark::State& state)
 {
     openFullBoard();
     long rounds = 0;
     desktop.yield = [&rounds] { ++rounds; };
-    screen.redrawCard = [](int) {};
+    mainView.redrawCard = [](int) {};
     long allocations = 0;
     for (auto _ : state) {
         session.box[1].left = farLeft;
@@ -132,13 +150,13 @@ BENCHMARK(flightWithEmptyYield)->Unit(benchmark::kMicrosecond);
 
 // ---- the rules ----
 
-/// Every flight arrives at once, and nothing is drawn.
+/// Every flight arrives in one step, and nothing is painted.
 void flyAtOnce()
 {
     openFullBoard();
-    screen = blankScreen();
-    screen.showSpeedWindow = [] { session.animationSpeed = 1e9; };
-    screen.measureLabel = [](const QString&, double& width, double& height) { width = height = 20; };
+    mainView = blankMainView();
+    mainView.showSpeedWindow = [] { session.run.animationSpeed = 1e9; };
+    mainView.measureLabel = [](const QString&, double& width, double& height) { width = height = 20; };
 }
 
 std::vector<QString> textKeys()
@@ -157,7 +175,7 @@ std::vector<double> numberKeys()
     return keys;
 }
 
-/// A library's sort over the same keys, made once for each way.
+/// The standard library's sort of the same keys, for comparison.
 void sortingFloor(benchmark::State& state)
 {
     openFullBoard();
@@ -190,7 +208,7 @@ void sortingWithoutFlights(benchmark::State& state)
 }
 BENCHMARK(sortingWithoutFlights)->Unit(benchmark::kMicrosecond);
 
-/// Counting the same values in a sorted list.
+/// Counting the same values in a sorted list, for comparison.
 void groupingFloor(benchmark::State& state)
 {
     openFullBoard();
@@ -202,7 +220,7 @@ void groupingFloor(benchmark::State& state)
 }
 BENCHMARK(groupingFloor)->Unit(benchmark::kMicrosecond);
 
-/// Every card has a value of its own: the most work there is.
+/// Every card has a different value, which is the worst case.
 void groupingWithoutFlights(benchmark::State& state)
 {
     flyAtOnce();
@@ -217,7 +235,7 @@ BENCHMARK(groupingWithoutFlights)->Unit(benchmark::kMicrosecond);
 void conditionsFloor(benchmark::State& state)
 {
     openFullBoard();
-    const QString text = QStringLiteral("MONSTER 50");
+    const QString text = u"MONSTER 50"_s;
     const double number = 50;
     for (auto _ : state) {
         int held = 0;
@@ -247,8 +265,7 @@ void allConditions(benchmark::State& state)
 {
     openFullBoard();
     for (auto _ : state)
-        benchmark::DoNotOptimize(cardsFound(textField, QStringLiteral("Monster 50")) +
-                                 cardsFound(numberField, QStringLiteral("50")));
+        benchmark::DoNotOptimize(cardsFound(textField, u"Monster 50"_s) + cardsFound(numberField, u"50"_s));
 }
 BENCHMARK(allConditions)->Unit(benchmark::kMicrosecond);
 

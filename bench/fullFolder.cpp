@@ -1,12 +1,13 @@
 #include "fullFolder.h"
 
-#include "core/Form1.h"
+#include "controls/forms.h"
 #include "core/session.h"
-#include "core/startValues.h"
+#include "database/loading.h"
 #include "platform/desktop.h"
-#include "platform/forms.h"
 #include "platform/realDesktop.h"
-#include "store/loading.h"
+#include "window/Form1.h"
+#include "window/assembly.h"
+#include "window/startValues.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -18,6 +19,8 @@
 #include <cstdlib>
 #include <iostream>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 void writeBytes(const QString& path, const QByteArray& bytes)
@@ -27,7 +30,7 @@ void writeBytes(const QString& path, const QByteArray& bytes)
         qFatal("The benchmark's folder can't be written");
 }
 
-/// No row is like another, so that nothing gets off lightly.
+/// All rows differ, so that no shortcut is measured.
 QImage busyPicture(int card)
 {
     QImage picture(159, 120, QImage::Format_RGB888);
@@ -38,16 +41,15 @@ QImage busyPicture(int card)
     return picture;
 }
 
-QString nameOf(int card) { return QStringLiteral("CARD%1").arg(card, 4, 10, QLatin1Char('0')); }
+QString nameOf(int card) { return u"CARD%1"_s.arg(card, 4, 10, '0'_L1); }
 
 void fill(const QString& folder)
 {
-    writeBytes(folder + QStringLiteral("/db-info.tdb"),
+    writeBytes(folder + u"/db-info.tdb"_s,
                " 3 \r\n 1 \r\n\"none\"\r\n\"Name\"\r\n\"Abc\"\r\nFalse\r\n\"Legs\"\r\n\"123\"\r\nFalse\r\n"
                "\"Home\"\r\n\"Abc\"\r\nFalse\r\nRW\r\nVER=\"1.1.0\"\r\n");
     for (int card = 1; card <= fullDatabase; ++card) {
-        const QString record =
-            QStringLiteral("\"00000000\"\r\n\"Monster %1\"\r\n\"%1\"\r\n\"Cave\"\r\n").arg(card);
+        const QString record = u"\"00000000\"\r\n\"Monster %1\"\r\n\"%1\"\r\n\"Cave\"\r\n"_s.arg(card);
         writeBytes(recordOf(card), record.toLatin1());
         if (!busyPicture(card).save(pictureOf(card)))
             qFatal("The benchmark's pictures can't be written");
@@ -56,11 +58,8 @@ void fill(const QString& folder)
 
 } // namespace
 
-QString recordOf(int card) { return fullFolder() + QLatin1Char('/') + nameOf(card) + QStringLiteral(".tcd"); }
-QString pictureOf(int card)
-{
-    return fullFolder() + QLatin1Char('/') + nameOf(card) + QStringLiteral(".bmp");
-}
+QString recordOf(int card) { return fullFolder() + u'/' + nameOf(card) + u".tcd"_s; }
+QString pictureOf(int card) { return fullFolder() + u'/' + nameOf(card) + u".bmp"_s; }
 
 QString fullFolder()
 {
@@ -78,15 +77,16 @@ void startFresh()
     static const QTemporaryDir settings;
     unloadAllForms();
     QCoreApplication::sendPostedEvents(nullptr,
-                                       QEvent::DeferredDelete); // there is no event loop to come round
+                                       QEvent::DeferredDelete); // no event loop is running
     installDesktop();
-    desktop.programFolder = [] { return settings.path(); };
-    desktop.showMessage = [](MessageIcon, const QString&, const QString& text) {
+    desktop.files.programFolder = [] { return settings.path(); };
+    desktop.boxes.showMessage = [](MessageIcon, const QString&, const QString& text) {
         std::cerr << text.toStdString() << '\n';
         std::abort();
     };
     session = {};
     forgetLoadedFaces();
+    connectHooks();
     Form1& window = form<Form1>();
     setStartValues();
     window.resize(1280, 800);
@@ -95,7 +95,7 @@ void startFresh()
 
 double residentMegabytes()
 {
-    QFile status(QStringLiteral("/proc/self/status"));
+    QFile status(u"/proc/self/status"_s);
     if (!status.open(QIODevice::ReadOnly))
         return 0;
     const QList<QByteArray> lines = status.readAll().split('\n');

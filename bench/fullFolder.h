@@ -1,4 +1,4 @@
-// A full database for the benchmarks, and the program around it without its questions.
+// A full database for the benchmarks, and the program without its dialogs.
 #pragma once
 
 #include <QString>
@@ -12,8 +12,8 @@ QString fullFolder();
 QString recordOf(int card);
 QString pictureOf(int card);
 
-/// A new session in the main window, with the real desktop but settings of its own. A message box ends the
-/// benchmark, since nobody is there to answer it.
+/// A new session in the main window, with the real desktop but settings of its own. A message box aborts the
+/// benchmark, since it could not be answered.
 void startFresh();
 
 /// The resident memory of this process in MB.

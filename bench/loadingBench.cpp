@@ -2,9 +2,9 @@
 #include "fullFolder.h"
 
 #include "core/session.h"
+#include "database/loading.h"
+#include "database/opening.h"
 #include "platform/fonts.h"
-#include "store/loading.h"
-#include "store/opening.h"
 #include "store/settings.h"
 
 #include <benchmark/benchmark.h>
@@ -14,6 +14,8 @@
 #include <QPainter>
 
 #include <map>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -27,10 +29,10 @@ QByteArray bytesOf(const QString& path)
     return file.readAll();
 }
 
-/// Reading, decoding, scaling and labelling the same files, and nothing else.
+/// Only reading, decoding, scaling and labelling the same files, for comparison.
 void openingFloor(benchmark::State& state)
 {
-    QFont font = namedFont(QStringLiteral("Comic Sans MS"), 10);
+    QFont font = namedFont(u"Comic Sans MS"_s, 10);
     font.setBold(true);
     fullFolder();
     for (auto _ : state) {
@@ -41,7 +43,7 @@ void openingFloor(benchmark::State& state)
                               .scaled(faceSize, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
             QPainter painter(&face);
             painter.setFont(font);
-            const QString label = QStringLiteral("Monster %1").arg(card);
+            const QString label = u"Monster %1"_s.arg(card);
             painter.drawText(QPoint(1, 13), label);
             painter.setPen(Qt::red);
             painter.drawText(QPoint(0, 12), label);
@@ -59,18 +61,18 @@ void open(benchmark::State& state, bool otherBefore)
         state.PauseTiming();
         startFresh();
         if (otherBefore)
-            writeSetting(settingsFile(), QStringLiteral("Last DB"), QStringLiteral("Path"), QString());
+            writeSetting(settingsFile(), u"Last DB"_s, u"Path"_s, QString());
         state.ResumeTiming();
         openChosenFolder(fullFolder());
     }
     state.counters["MB in memory"] = residentMegabytes();
 }
 
-/// The settings remember the folder already.
+/// The folder is already the last database in the settings.
 void opening(benchmark::State& state) { open(state, false); }
 BENCHMARK(opening)->Unit(benchmark::kMillisecond)->UseRealTime();
 
-/// The settings remember another one, so that they are written and the disk is waited for.
+/// The last database is another one, so that the settings are written and synced to disk.
 void openingAnother(benchmark::State& state) { open(state, true); }
 BENCHMARK(openingAnother)->Unit(benchmark::kMillisecond)->UseRealTime();
 

@@ -1,9 +1,9 @@
 // From the start of the process to the painted welcome dialog.
 #include "startBench.h"
 
-#include "core/FrmStlogo.h"
-#include "core/startUp.h"
-#include "platform/forms.h"
+#include "controls/forms.h"
+#include "window/FrmStlogo.h"
+#include "window/startUp.h"
 
 #include <benchmark/benchmark.h>
 
@@ -15,16 +15,18 @@
 
 #include <cstdlib>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-/// Ends the process when the window is painted for the first time.
+/// Ends the process after the window's first paint.
 class EndWhenPainted : public QObject {
 public:
     bool eventFilter(QObject* watched, QEvent* event) override
     {
         if (event->type() == QEvent::Paint) {
             watched->removeEventFilter(this);
-            QTimer::singleShot(0, [] { std::_Exit(0); }); // when the controls are painted too
+            QTimer::singleShot(0, [] { std::_Exit(0); }); // after the controls are painted too
         }
         return false;
     }
@@ -56,20 +58,20 @@ void startProcess(benchmark::State& state, const QString& what)
 {
     for (auto _ : state) {
         QProcess child;
-        child.start(QCoreApplication::applicationFilePath(), {QStringLiteral("--start"), what});
+        child.start(QCoreApplication::applicationFilePath(), {u"--start"_s, what});
         if (!child.waitForFinished() || child.exitCode() != 0)
             state.SkipWithError("the window did not come");
     }
 }
 
-void startFloor(benchmark::State& state) { startProcess(state, QStringLiteral("bare")); }
+void startFloor(benchmark::State& state) { startProcess(state, u"bare"_s); }
 BENCHMARK(startFloor)->Unit(benchmark::kMillisecond)->UseRealTime();
 
-/// No floor of ours, but tells what the first text alone takes.
-void startToOneWord(benchmark::State& state) { startProcess(state, QStringLiteral("word")); }
+/// Not a minimum for the program, but shows the cost of the first text.
+void startToOneWord(benchmark::State& state) { startProcess(state, u"word"_s); }
 BENCHMARK(startToOneWord)->Unit(benchmark::kMillisecond)->UseRealTime();
 
-void startToWelcome(benchmark::State& state) { startProcess(state, QStringLiteral("welcome")); }
+void startToWelcome(benchmark::State& state) { startProcess(state, u"welcome"_s); }
 BENCHMARK(startToWelcome)->Unit(benchmark::kMillisecond)->UseRealTime();
 
 } // namespace
@@ -80,8 +82,8 @@ void startAndEnd(int argc, char** argv, const char* what)
     if (qstrcmp(what, "bare") == 0)
         show(new QWidget);
     if (qstrcmp(what, "word") == 0)
-        show(new QLabel(QStringLiteral("Welcome")));
+        show(new QLabel(u"Welcome"_s));
     modalLoop = passSplashAndEndAtWelcome;
     runTallymoor();
-    std::_Exit(1); // the welcome dialog never came
+    std::_Exit(1); // the welcome dialog did not appear
 }

@@ -1,10 +1,10 @@
 // The table of a full database: from the click on its button, and one step of its scroll bar.
 #include "fullFolder.h"
 
-#include "core/Form1.h"
+#include "controls/forms.h"
 #include "core/session.h"
-#include "platform/forms.h"
-#include "store/opening.h"
+#include "database/opening.h"
+#include "window/Form1.h"
 
 #include <benchmark/benchmark.h>
 
@@ -12,11 +12,13 @@
 #include <QPainter>
 #include <QScrollBar>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int rowHeight = 60;
 
-/// Paints the faces of the rows in view, and nothing else.
+/// Only paints the faces of the rows in view, for comparison.
 class FacesWidget : public QWidget {
 public:
     int first = 1;
@@ -74,7 +76,7 @@ BENCHMARK(clickOnTable)->Unit(benchmark::kMillisecond);
 void tableScrollStep(benchmark::State& state)
 {
     openFullTable();
-    auto* bar = form<Form1>().findChild<QScrollBar*>(QStringLiteral("gridScroll"));
+    auto* bar = form<Form1>().findChild<QScrollBar*>(u"gridScroll"_s);
     for (auto _ : state) {
         bar->setValue(bar->value() % 80 + 1);
         QCoreApplication::processEvents();

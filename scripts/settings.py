@@ -1,4 +1,4 @@
-"""Reads and writes the program's settings file, from outside of it: sections, keys and values in 8-bit text."""
+"""Reads and writes the program's settings file: sections, keys and values in 8-bit text."""
 
 import configparser
 import pathlib
@@ -8,7 +8,7 @@ ENCODING = "cp1252"
 
 
 class Settings:
-    """The settings file of the program in `folder`. Every call goes to the file, which need not be there."""
+    """The settings file of the program in `folder`. Every call reads the file, which need not exist."""
 
     def __init__(self, folder):
         self.path = pathlib.Path(folder) / NAME

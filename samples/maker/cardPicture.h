@@ -1,4 +1,5 @@
-// What all pictures of the sample cards share: their size, their colours and the ink of their outlines.
+// What all pictures of the sample cards share: their size, their colours, the ink of their outlines,
+// their edge.
 
 #pragma once
 
@@ -21,5 +22,9 @@ inline QImage blankPicture()
     return picture;
 }
 
-/// The drawing in an SVG file on white. Throws std::runtime_error when it can't be read as one.
-QImage drawSvg(const QString& path);
+/// Darkens the edge of a card's picture, so that overlapping cards can be told apart. Draw it last.
+void drawEdge(QImage& picture);
+
+/// The drawings of SVG files on white, stacked from the first up. Throws std::runtime_error for a file that
+/// isn't SVG.
+QImage drawSvgs(const QStringList& paths, QSize size);

@@ -4,6 +4,7 @@
 #include <QFileInfo>
 #include <QSet>
 
+#include <algorithm>
 #include <stdexcept>
 
 namespace {
@@ -35,6 +36,16 @@ SampleField readField(const QString& text)
         field.answers = cellsOf(parts[2], ',');
     demand(field.answers.size() <= mostAnswers, "a list has twelve answers at most");
     return field;
+}
+
+/// Checks that the field has a list, since each answer needs a ground.
+QString readGround(const QString& name, const QList<SampleField>& fields)
+{
+    const auto isMeant = [&](const SampleField& field) {
+        return field.name == name && !field.answers.isEmpty();
+    };
+    demand(std::any_of(fields.begin(), fields.end(), isMeant), "the ground is no field with a list: " + name);
+    return name;
 }
 
 void checkHeadings(const QStringList& headings, const QList<SampleField>& fields)
@@ -87,6 +98,10 @@ CardTable readCardTable(const QString& path)
                 table.title = text.section(':', 1).trimmed();
             } else if (text.startsWith("field:")) {
                 table.fields.append(readField(text.section(':', 1)));
+            } else if (text.startsWith("ground:")) {
+                table.ground = readGround(text.section(':', 1).trimmed(), table.fields);
+            } else if (text.startsWith("board:")) {
+                table.board = text.section(':', 1).trimmed();
             } else if (headings.isEmpty()) {
                 headings = cellsOf(text, ';');
                 checkHeadings(headings, table.fields);

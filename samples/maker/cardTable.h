@@ -7,11 +7,14 @@
 //     field: Name; text
 //     field: Family; text; Brass, Percussion, Strings, Woodwind
 //     field: Size cm; number
+//     ground: Family
+//     board: stage.svg
 //     Name   ; Family  ; Size cm ; Picture    ; Sound
 //     Guitar ; Strings ; 100     ; guitar.svg ; guitar
 //
-// The row of headings begins with the fields in their order. The columns Picture, Sound and Note may follow
-// it.
+// The ground is the field that tells what is drawn behind the figure, the board a drawing to lie below the
+// cards; both can be left out. The row of headings begins with the fields in their order. The columns
+// Picture, Sound and Note may follow it.
 
 #pragma once
 
@@ -34,6 +37,8 @@ struct SampleCard {
 struct CardTable {
     QString title;
     QList<SampleField> fields;
+    QString ground; ///< name of the field whose answers choose the grounds of the pictures; or empty
+    QString board;  ///< file name of the drawing below the cards; empty when there is none
     QList<SampleCard> cards;
 };
 

@@ -19,16 +19,16 @@ int main(int argc, char** argv)
         QTextStream(stderr) << "usage: make_samples OUTDIR\n";
         return 2;
     }
-    // Nobody is there to read a box: what a writer tells ends the run.
-    desktop.beep = [] {};
-    desktop.showMessage = [](MessageIcon, const QString&, const QString& text) {
+    // A message of a writer ends the run.
+    desktop.sound.beep = [] {};
+    desktop.boxes.showMessage = [](MessageIcon, const QString&, const QString& text) {
         throw std::runtime_error(text.toStdString());
     };
     const QDir tables(SAMPLES_FOLDER "/tables");
     try {
         for (const QString& name : tables.entryList({"*.txt"}, QDir::Files, QDir::Name)) {
             const CardTable table = readCardTable(tables.filePath(name));
-            writeSampleDatabase(table, SAMPLES_FOLDER "/pictures", arguments[1]);
+            writeSampleDatabase(table, QDir(SAMPLES_FOLDER), arguments[1]);
             QTextStream(stdout) << table.title << ": " << table.cards.size() << " cards\n";
         }
     } catch (...) {

@@ -1,6 +1,7 @@
 #include "monster.h"
 
 #include "cardPicture.h"
+#include "monsterScene.h"
 
 #include <QHash>
 #include <QPainter>
@@ -324,6 +325,7 @@ QImage drawMonster(const Monster& monster)
     QImage picture = blankPicture();
     QPainter painter(&picture);
     painter.setRenderHint(QPainter::Antialiasing);
+    drawScene(painter, monster.body, figure.fill);
     if (monster.flies)
         drawWings(painter, figure);
     drawHorns(painter, figure, monster.horns);
@@ -331,5 +333,7 @@ QImage drawMonster(const Monster& monster)
     drawBody(painter, figure, monster.pattern);
     drawFeet(painter, figure);
     drawFace(painter, figure, monster.eyes);
+    painter.end();
+    drawEdge(picture);
     return picture;
 }

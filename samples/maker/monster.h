@@ -22,6 +22,6 @@ struct Monster {
 /// What the card tells of its monster.
 Monster monsterOf(const SampleCard& card);
 
-/// The monster on white, standing on the ground, of the size of a card's picture (159 x 120).
+/// The monster in its scene, standing on the ground, of the size of a card's picture (159 x 120).
 /// Throws std::runtime_error for a word or number that can't be drawn.
 QImage drawMonster(const Monster& monster);

@@ -1,40 +1,21 @@
-"""The floors of the house: includes run downwards only, and no two files include each other, even around a corner.
-
-A file's floor is that of its folder, unless a row of EXCEPTIONS names it. Whoever adds a file to `core/` or `store/`
-that stands higher than its folder's ground floor adds it there."""
+"""The order of the folders: includes run downwards only, no two files include each other, directly or indirectly, and
+folders on one level don't include each other."""
 
 import pathlib
 import re
 
+# From the lowest level up; a file is on the level of its folder.
 FLOORS = [
-    "platform",
-    "session",
-    "store's files",
-    "board",
-    "loading and opening",
-    "subsystems",
-    "assembly",
+    ["platform"],
+    ["core"],
+    ["store", "controls"],
+    ["board"],
+    ["database"],
+    ["choices"],
+    ["tools", "editing", "analysis", "paint", "options", "guidance"],
+    ["window"],
+    ["main.cpp"],
 ]
-
-FOLDERS = {
-    "platform": "platform",
-    "core": "session",
-    "store": "store's files",
-    "board": "board",
-    "tools": "subsystems",
-    "editing": "subsystems",
-    "analysis": "subsystems",
-    "paint": "subsystems",
-    "options": "subsystems",
-    "guidance": "subsystems",
-    "": "assembly",
-}
-
-# The part of the path below src/, without its ending, in small letters -> floor.
-EXCEPTIONS = {
-    r"board/refresh|store/(load\w*|open\w*|close\w*|tilecards|choose\w*|folderwalk|fileform|new\w*)": "loading and opening",
-    r"core/(assembly|dispatch|commands|menubar|form1|frmnewdoc|frmstlogo|exitform|mainsettings|startup|shutdown)": "assembly",
-}
 
 INCLUDE = re.compile(r'^\s*#\s*include\s+"([^"]+)"')
 SYSTEM_INCLUDE = re.compile(r"^\s*#\s*include\s+<([^>]+)>")
@@ -47,17 +28,18 @@ def unit(path):
     return path.removeprefix("src/").rsplit(".", 1)[0]
 
 
-def floor(name):
-    """The number of the unit's floor, from 0 at the ground; None when its folder has none."""
-    for pattern, title in EXCEPTIONS.items():
-        if re.fullmatch(pattern, name.lower()):
-            return FLOORS.index(title)
-    folder = name.split("/")[0] if "/" in name else ""
-    return FLOORS.index(FOLDERS[folder]) if folder in FOLDERS else None
+def folder(path):
+    """The folder of a source below src/; a source in src/ itself is its own."""
+    return path.removeprefix("src/").split("/")[0]
+
+
+def floor(path):
+    """The number of the source's level, from 0 at the bottom; None when its folder has none."""
+    return next((number for number, folders in enumerate(FLOORS) if folder(path) in folders), None)
 
 
 def project_includes(tree, path):
-    """(line, included file) for every include of a project file that is there."""
+    """(line, included file) for every include of an existing project file."""
     for number, line in tree.numbered_lines(path):
         match = INCLUDE.match(line)
         if match and (tree.root / "src" / match[1]).is_file():
@@ -65,20 +47,21 @@ def project_includes(tree, path):
 
 
 def upward(tree):
-    """Includes of a file on a higher floor, and files on no floor at all."""
+    """Includes of a higher level or of another folder on the same one, and files on no level."""
     for path in tree.files(".h", ".cpp", under="src"):
-        here = floor(unit(path))
+        here = floor(path)
         if here is None:
             yield f"{path}: its folder stands on no floor (scripts/checks/layers.py)"
             continue
         for number, included in project_includes(tree, path):
-            there = floor(unit(included))
-            if there is not None and there > here:
-                yield f"{path}:{number}: {FLOORS[here]} includes {included} of {FLOORS[there]}"
+            there = floor(included)
+            if there is None or there < here or folder(included) == folder(path):
+                continue
+            yield f"{path}:{number}: {folder(path)} includes {included}, which is no floor below"
 
 
 def cycles(tree):
-    """Units that include each other. Each ring is told once, from its first name on."""
+    """Units that include each other. Each cycle is reported once, starting with its first name."""
     edges = {}
     for path in tree.files(".h", ".cpp", under="src"):
         edges.setdefault(unit(path), set()).update(unit(i) for _, i in project_includes(tree, path))
@@ -111,7 +94,7 @@ def core_sources(tree):
 
 
 def widget_headers():
-    """Names of the headers that need Qt Widgets, as the installed Qt has them."""
+    """Names of the installed Qt's headers that need Qt Widgets."""
     return {header.name
             for module in WIDGET_MODULES
             for header in pathlib.Path("/usr/include").glob(f"*/qt6/{module}/Q*")}

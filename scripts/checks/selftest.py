@@ -1,4 +1,4 @@
-"""Plants one fault of each kind in a small tree of its own and sees whether the check finds it, and only it.
+"""Plants one fault of each kind in a small tree and checks that it is found, and nothing else.
 
 Run as: scripts/check --self-test"""
 
@@ -15,30 +15,31 @@ SOUND = {
     "src/CMakeLists.txt": "target_sources(tallymoor_core PRIVATE core/session.cpp board/faces.cpp)\n",
     "src/core/session.h": "#pragma once\n#include <QString>\n",
     "src/core/session.cpp": '#include "core/session.h"\n',
-    "src/core/form1.cpp": '#include "tools/sort.h"\n#include "board/faces.h"\n',
+    "src/window/form1.cpp": '#include "tools/sort.h"\n#include "board/faces.h"\n',
     "src/platform/realDesktop.cpp": "void ask() { QMessageBox::question(nullptr, {}, {}); }\n",
     "src/board/faces.h": '#pragma once\n#include "core/session.h"\n',
     "src/board/faces.cpp": '#include "board/faces.h"\nconst char *icon = "yes%1.svg";\n',
-    "src/store/opening.cpp": '#include "board/faces.h"\n',
+    "src/database/opening.cpp": '#include "board/faces.h"\n',
     "src/tools/sort.h": '#pragma once\n#include "board/faces.h"\n',
     "resources/yes3.svg": "<svg/>\n",
     "tests/damaged/short.bmp": "BM",
     "tests/pictures_test.cpp": 'const char *all = "damaged/";\n',
 }
 
-# What is planted (file -> text), which check looks, what it must say.
+# What is planted (file -> text), which check is run, what it must report.
 PLANTED = [
-    ({"src/board/table.h": '#include "tools/sort.h"\n'}, layers.faults, "board includes src/tools/sort.h of subsystems"),
-    ({"src/store/db.cpp": '#include "store/opening.h"\n', "src/store/opening.h": ""}, layers.faults,
-     "store's files includes src/store/opening.h of loading and opening"),
+    ({"src/board/table.h": '#include "tools/sort.h"\n'}, layers.faults, "board includes src/tools/sort.h, which is no floor below"),
+    ({"src/editing/card.cpp": '#include "tools/sort.h"\n'}, layers.faults,
+     "editing includes src/tools/sort.h, which is no floor below"),
     ({"src/attic/box.h": ""}, layers.faults, "stands on no floor"),
     ({"src/tools/a.h": '#include "tools/b.h"\n', "src/tools/b.h": "", "src/tools/b.cpp": '#include "tools/a.h"\n'},
      layers.faults, "tools/a -> tools/b -> tools/a"),
     ({"src/core/session.h": "#include <QWidget>\n"}, layers.faults, "knows no windows: QWidget"),
     ({"src/board/faces.cpp": "#include <QtWidgets/QLabel>\n// yes%1\n"}, layers.faults, "knows no windows: QtWidgets/QLabel"),
-    ({"src/tools/sort.cpp": "void f() { QMessageBox::about(nullptr, {}, {}); }\n"}, seams.faults, "desktop.showMessage"),
-    ({"src/tools/sort.cpp": "void f() { QFileDialog d; }\n"}, seams.faults, "desktop.chooseFolder"),
-    ({"src/tools/sort.cpp": "void f() { QApplication::beep(); }\n"}, seams.faults, "desktop.beep"),
+    ({"src/tools/sort.cpp": "void f() { QMessageBox::about(nullptr, {}, {}); }\n"}, seams.faults, "desktop.boxes.showMessage"),
+    ({"src/tools/sort.cpp": "void f() { QFileDialog d; }\n"}, seams.faults, "desktop.files.chooseFolder"),
+    ({"src/tools/sort.cpp": "void f() { QApplication::beep(); }\n"}, seams.faults, "desktop.sound.beep"),
+    ({"src/tools/sort.cpp": "void f() { std::async([] {}); }\n"}, seams.faults, "Errands::send"),
     ({"src/platform/wave.cpp": "void f() { qApp->processEvents(); }\n"}, seams.faults, "desktop.yield"),
     ({"resources/lonely.svg": "<svg/>\n"}, unused.faults, "resources/lonely.svg"),
     ({"tests/odd/other.bmp": "BM"}, unused.faults, "tests/odd/other.bmp"),
@@ -51,7 +52,7 @@ PLANTED = [
 
 class Checks(unittest.TestCase):
     def faults(self, look, planted):
-        """What the check says of the sound tree with `planted` on top; the outside tools see the planted files."""
+        """What the check reports on the sound tree with `planted` added; external tools get the planted files."""
         with tempfile.TemporaryDirectory() as folder:
             for name, text in (SOUND | planted).items():
                 path = pathlib.Path(folder, name)

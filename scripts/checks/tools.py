@@ -1,5 +1,5 @@
-"""The checks that lean on an outside tool: the format, clang-tidy and cppcheck. Each is given the files to look at
-and yields what the tool complains of."""
+"""The checks that use an external tool: the format, clang-tidy and cppcheck. Each is given the files to check and
+yields the tool's complaints."""
 
 import concurrent.futures
 import os

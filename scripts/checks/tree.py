@@ -1,4 +1,4 @@
-"""The project's files as the checks see them: the tracked and new ones, and which of them changed lately."""
+"""The project's files: the tracked and new ones, and which of them have changed."""
 
 import pathlib
 import subprocess
@@ -22,7 +22,7 @@ class Tree:
         return sorted({f for f in listed if f and f.endswith(suffixes or "") and (self.root / f).is_file()})
 
     def text(self, path):
-        """What the file says; bytes that are no UTF-8 (a binary fixture) become question marks."""
+        """The file's text; bytes that are not UTF-8 (a binary fixture) become question marks."""
         if path not in self._texts:
             self._texts[path] = (self.root / path).read_text(encoding="utf-8", errors="replace")
         return self._texts[path]
@@ -32,7 +32,7 @@ class Tree:
 
     def base(self):
         """The commit that changes are counted from: where this branch left origin's main; on main itself, where
-        main stood a day ago; the empty tree when there is nothing older."""
+        main was a day ago; the empty tree when there is nothing older."""
         def found(*arguments):
             answer = subprocess.run(["git", "-C", str(self.root), *arguments], capture_output=True, text=True)
             return answer.stdout.strip() if answer.returncode == 0 else ""
@@ -45,7 +45,7 @@ class Tree:
         return found("rev-list", "-1", "--before=24 hours ago", "HEAD") or EMPTY_TREE
 
     def changed(self, *suffixes):
-        """The files that differ from base(), the new ones among them."""
+        """The files that differ from base(), including new ones."""
         differing = self.git("diff", "--name-only", "-z", "--diff-filter=d", self.base()).split("\0")
         fresh = self.git("ls-files", "-z", "--others", "--exclude-standard").split("\0")
         lately = set(differing) | set(fresh)

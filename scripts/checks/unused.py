@@ -1,4 +1,4 @@
-"""No picture and no fixture that nothing uses: such a file costs every reader a question.
+"""No unused picture or fixture: every reader would wonder what such a file is for.
 
 A file counts as used when its name stands in the program (for a picture) or in the tests (for a fixture): whole, or
 without its ending, or with a %1 or {} for a run of digits, as in "yes%1.svg". A folder of fixtures of which a test
@@ -12,7 +12,7 @@ PROSE = (".md",)
 
 FIXTURES = PICTURES + (".tdb", ".tcd", ".snd", ".wmf", ".rar", ".ini")
 
-# Where the files lie, their endings, where their names must stand, in files of which endings.
+# Where the files are, their endings, where their names must occur, in files of which endings.
 PLACES = [
     ("resources", PICTURES, ("src", "resources"), CODE),
     ("tests", FIXTURES, ("tests", "bench"), CODE),
@@ -21,7 +21,7 @@ PLACES = [
 
 
 def ways_to_say(path):
-    """The texts of which one stands where the file is used."""
+    """The texts of which one occurs where the file is used."""
     stem = path.rsplit("/", 1)[-1].rsplit(".", 1)[0]
     yield rf"\b{re.escape(stem)}\b"
     if re.search(r"\d", stem):

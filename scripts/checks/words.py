@@ -1,4 +1,4 @@
-"""The project speaks about itself only: no talk about how the work was ordered, no path of one machine."""
+"""The project describes itself only: nothing about how the work was organised, no path of one machine."""
 
 import pathlib
 import re
@@ -18,7 +18,7 @@ WORDS = [
 
 
 def own_places(tree):
-    """The paths of this machine: where the project lies, and the home folder."""
+    """The paths of this machine: the project's folder and the home folder."""
     places = {str(tree.root), str(pathlib.Path.home()), "/wor" + "k"} - {"/"}
     return rf"(?<![\w.])({'|'.join(map(re.escape, places))})/\w"
 

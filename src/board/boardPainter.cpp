@@ -1,4 +1,5 @@
 #include "board/boardPainter.h"
+#include "board/mode.h"
 
 #include "core/session.h"
 #include "platform/colour.h"
@@ -10,8 +11,8 @@
 namespace {
 
 constexpr int outline = 3;      // width of the circles' line, pixels
-constexpr int frameWidth = 2;   // of the selected card's frame; it just fills the gap around the card
-constexpr double haloWidth = 4; // around captions, so that they can be read on any background
+constexpr int frameWidth = 2;   // of the selected card's frame; fills the gap around the card exactly
+constexpr double haloWidth = 4; // width of the outline that keeps captions legible on any background
 
 template <class Part>
 QRect roundedRect(const Part& part)
@@ -21,7 +22,7 @@ QRect roundedRect(const Part& part)
 
 void paintBackground(QPainter& painter, const QRect& damage)
 {
-    painter.fillRect(damage, colourOf(session.boardColour));
+    painter.fillRect(damage, colourOf(session.board.colour));
     if (!session.backgroundImage.isNull())
         painter.drawImage(QPoint(), session.backgroundImage);
 }
@@ -31,12 +32,12 @@ void paintShapes(QPainter& painter, const BoardLook& look)
     constexpr double half = outline / 2.0;
     const QMarginsF inside(half, half, half, half);
     painter.setPen(QPen(look.ink, outline));
-    if (session.VennBox.visible) {
+    if (session.board.VennBox.visible) {
         painter.setBrush(Qt::NoBrush);
-        painter.drawRect(QRectF(wholePixels(session.VennBox)).marginsRemoved(inside));
+        painter.drawRect(QRectF(wholePixels(session.board.VennBox)).marginsRemoved(inside));
     }
-    const std::pair<const BoardShape&, QColor> circles[] = {{session.VennLeftCircle, look.leftTint},
-                                                            {session.VennRightCircle, look.rightTint}};
+    const std::pair<const BoardShape&, QColor> circles[] = {{session.board.VennLeftCircle, look.leftTint},
+                                                            {session.board.VennRightCircle, look.rightTint}};
     for (const auto& [circle, tint] : circles) {
         if (!circle.visible)
             continue;
@@ -47,8 +48,9 @@ void paintShapes(QPainter& painter, const BoardLook& look)
 
 void paintBin(QPainter& painter, const BoardLook& look)
 {
-    if (session.BigBin.visible)
-        (session.BigBin.lidPressed ? look.binDown : look.binUp).paint(&painter, wholePixels(session.BigBin));
+    if (session.board.BigBin.visible)
+        (session.board.BigBin.lidPressed ? look.binDown : look.binUp)
+            .paint(&painter, wholePixels(session.board.BigBin));
 }
 
 void paintCaption(QPainter& painter, const BoardLook& look, const BoardLabel& label)
@@ -68,34 +70,50 @@ void paintCaption(QPainter& painter, const BoardLook& look, const BoardLabel& la
 
 void paintCaptions(QPainter& painter, const BoardLook& look)
 {
-    for (const BoardLabel& label : session.GroupLabel)
+    for (const BoardLabel& label : session.board.groupTitle)
         paintCaption(painter, look, label);
-    paintCaption(painter, look, session.searchTitle);
-    paintCaption(painter, look, session.otherTitle);
+    paintCaption(painter, look, session.board.searchTitle);
+    paintCaption(painter, look, session.board.otherTitle);
 }
 
-void paintCards(QPainter& painter, const QRect& damage)
+/// In the screen's own pixels, rounded to whole ones.
+QRect ownPixels(double left, double top, double width, double height, double ratio)
+{
+    return {qRound(left * ratio), qRound(top * ratio), qRound(width * ratio), qRound(height * ratio)};
+}
+
+void paintCards(QPainter& painter, const QRect& damage, double ratio)
 {
     for (const int i : session.cardStack.fromBelow()) {
         const CardImage& card = session.box[i];
-        const QRect place = wholePixels(card);
-        if (i == 0 || !card.visible || !place.intersects(damage))
+        if (i == 0 || !card.visible || !paintedRect(card, ratio).intersects(damage))
             continue;
-        // A face that was drawn for another measure is cut by the card's edge, never scaled.
-        const QSize shown = card.picture.deviceIndependentSize().toSize().boundedTo(place.size());
-        const double ratio = card.picture.devicePixelRatio();
-        painter.drawImage(place.topLeft(), card.picture, QRectF(QPointF(), QSizeF(shown) * ratio));
+        // A face that was drawn for another size is clipped to the card.
+        const double faceRatio = card.picture.devicePixelRatio();
+        const QSizeF shown = card.picture.deviceIndependentSize().boundedTo({card.width, card.height});
+        const QRect part = ownPixels(0, 0, shown.width(), shown.height(), faceRatio);
+        painter.drawImage(ownPixels(card.left, card.top, shown.width(), shown.height(), ratio), card.picture,
+                          part);
     }
 }
 
-void paintFrame(QPainter& painter)
+void paintFrame(QPainter& painter, double ratio)
 {
-    if (!session.SelectBox.visible)
+    const BoardShape& box = session.board.SelectBox;
+    if (!box.visible)
         return;
-    const QRect frame = wholePixels(session.SelectBox);
-    const QRect inside = frame.adjusted(frameWidth, frameWidth, -frameWidth, -frameWidth);
-    for (const QRect& side : QRegion(frame).subtracted(inside))
-        painter.fillRect(side, colourOf(session.borderColour));
+    const QRect frame = ownPixels(box.left, box.top, box.width, box.height, ratio);
+    const int line = qRound(frameWidth * ratio);
+    for (const QRect& side : QRegion(frame).subtracted(frame.adjusted(line, line, -line, -line)))
+        painter.fillRect(side, colourOf(session.board.borderColour));
+}
+
+template <class Part>
+QRect rectOnScreen(const Part& part, double ratio)
+{
+    if (ratio == 1)
+        return wholePixels(part);
+    return QRectF(part.left, part.top, part.width, part.height).toAlignedRect().adjusted(-1, -1, 1, 1);
 }
 
 } // namespace
@@ -103,16 +121,23 @@ void paintFrame(QPainter& painter)
 QRect wholePixels(const CardImage& card) { return roundedRect(card); }
 QRect wholePixels(const BoardShape& shape) { return roundedRect(shape); }
 
+QRect paintedRect(const CardImage& card, double ratio) { return rectOnScreen(card, ratio); }
+QRect paintedRect(const BoardShape& shape, double ratio) { return rectOnScreen(shape, ratio); }
+
 void paintBoard(QPainter& painter, const QRect& damage, const BoardLook& look)
 {
     paintBackground(painter, damage);
-    if (session.tablePanel.visible)
-        return; // it lies over all but a hair's breadth below the band
+    if (boardIsCovered())
+        return; // table or chart covers all but a narrow strip below the band
     painter.setRenderHint(QPainter::Antialiasing);
     paintShapes(painter, look);
     paintBin(painter, look);
     paintCaptions(painter, look);
     painter.setRenderHint(QPainter::Antialiasing, false);
-    paintCards(painter, damage);
-    paintFrame(painter);
+    // Cards lie on the screen's own pixels, so that their faces are as sharp as they were drawn.
+    const double ratio = painter.device()->devicePixelRatioF();
+    painter.scale(1 / ratio, 1 / ratio);
+    paintCards(painter, damage, ratio);
+    paintFrame(painter, ratio);
+    painter.scale(ratio, ratio);
 }

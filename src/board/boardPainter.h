@@ -1,4 +1,4 @@
-// The look of the board: paints what lies on it, from the session's plain data, on any surface.
+// Paints the board from the session's data, on any paint device.
 #pragma once
 
 #include <QColor>
@@ -10,7 +10,7 @@ class QPainter;
 struct BoardShape;
 struct CardImage;
 
-/// What the board's own parts look like; the style sheet decides.
+/// The look of the board's own parts, set by the style sheet.
 struct BoardLook {
     QFont captionFont;
     QColor ink;
@@ -21,10 +21,14 @@ struct BoardLook {
     QIcon binDown;
 };
 
-/// Places may be fractions while a card flies; what is painted and told outside are whole pixels.
+/// Positions may be fractions while a card flies; painting and accessibility use whole pixels.
 QRect wholePixels(const CardImage& card);
 QRect wholePixels(const BoardShape& shape);
 
-/// Paints the part of the board within `damage`, the lowest first: background, circles, bin, captions, the
-/// cards as they are stacked, the frame of the selected card.
+/// The board pixels that the card or shape touches on a screen of that pixel ratio.
+QRect paintedRect(const CardImage& card, double ratio);
+QRect paintedRect(const BoardShape& shape, double ratio);
+
+/// Paints the part of the board within `damage`, from the lowest layer up: background, circles, bin,
+/// captions, cards in stacking order, the frame of the selected card.
 void paintBoard(QPainter& painter, const QRect& damage, const BoardLook& look);

@@ -2,6 +2,7 @@
 
 #include "board/boardPainter.h"
 #include "board/hand.h"
+#include "board/mode.h"
 #include "store/cardFiles.h"
 
 #include <QAccessibleWidget>
@@ -9,17 +10,19 @@
 #include <QPointer>
 #include <QWidget>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int binItem = lastCard + 1;
 constexpr int firstCaption = binItem + 1;
 constexpr int groupCaptions = 13;
 
-const QString selectAction = QStringLiteral("select");
-const QString editAction = QStringLiteral("edit");
-const QString playAction = QStringLiteral("play");
-const QString deleteAction = QStringLiteral("delete"); // only while the bin is out
-const QString closeAction = QStringLiteral("close");
+const QString selectAction = u"select"_s;
+const QString editAction = u"edit"_s;
+const QString playAction = u"play"_s;
+const QString deleteAction = u"delete"_s; // only while the bin is shown
+const QString closeAction = u"close"_s;
 
 bool isCard(int item) { return item >= 1 && item <= lastCard; }
 bool isCaption(int item) { return item >= firstCaption; }
@@ -28,28 +31,28 @@ const BoardLabel& caption(int item)
 {
     const int number = item - firstCaption;
     if (number < groupCaptions)
-        return session.GroupLabel[number];
-    return number == groupCaptions ? session.searchTitle : session.otherTitle;
+        return session.board.groupTitle[number];
+    return number == groupCaptions ? session.board.searchTitle : session.board.otherTitle;
 }
 
 bool isShown(int item)
 {
-    if (session.tablePanel.visible) // it covers the board
+    if (boardIsCovered())
         return false;
     if (isCard(item))
         return session.box[item].visible;
     if (isCaption(item))
         return caption(item).visible;
-    return item == binItem && session.BigBin.visible;
+    return item == binItem && session.board.BigBin.visible;
 }
 
 QString nameOf(int item)
 {
     if (isCard(item)) {
         const QString& label = session.box[item].tooltip;
-        return label.isEmpty() ? QStringLiteral("Card %1").arg(item) : label;
+        return label.isEmpty() ? u"Card %1"_s.arg(item) : label;
     }
-    return isCaption(item) ? caption(item).text : QStringLiteral("Bin");
+    return isCaption(item) ? caption(item).text : u"Bin"_s;
 }
 
 /// In board pixels.
@@ -58,7 +61,7 @@ QRect placeOf(int item)
     if (isCard(item))
         return wholePixels(session.box[item]);
     if (!isCaption(item))
-        return wholePixels(session.BigBin);
+        return wholePixels(session.board.BigBin);
     const BoardLabel& label = caption(item);
     return QRectF(label.left, label.top, label.width, label.height).toAlignedRect();
 }
@@ -72,7 +75,7 @@ QAccessible::Role roleOf(int item)
 
 bool isSelected(int item)
 {
-    return isCard(item) && item == session.selectedCard && session.SelectBox.visible && isShown(item);
+    return isCard(item) && item == session.selectedCard && session.board.SelectBox.visible && isShown(item);
 }
 
 QStringList actionsOf(int item)
@@ -82,7 +85,7 @@ QStringList actionsOf(int item)
     if (item == binItem)
         return {closeAction};
     QStringList actions{selectAction, editAction, playAction};
-    if (session.BigBin.visible)
+    if (session.board.BigBin.visible)
         actions.append(deleteAction);
     return actions;
 }
@@ -151,7 +154,8 @@ public:
     QStringList keyBindingsForAction(const QString&) const override { return {}; }
     void doAction(const QString& action) override
     {
-        // Later, since an action may open a dialog, and whoever asked for it must not wait for its end.
+        // From the event loop: an action may open a dialog, and the screen reader must not wait until that is
+        // closed.
         QMetaObject::invokeMethod(
             board, [which = item, action] { guarded([&] { act(which, action); }); }, Qt::QueuedConnection);
     }
@@ -185,7 +189,7 @@ private:
     BoardVoice& voice;
 };
 
-QHash<QObject*, BoardVoice*> voices; // of the boards there are
+QHash<QObject*, BoardVoice*> voices; // by board
 
 QAccessibleInterface* makeInterface(const QString&, QObject* object)
 {
@@ -234,7 +238,7 @@ void BoardVoice::follow(int card)
 
 void BoardVoice::followItem(int item)
 {
-    Told& last = told.at(std::size_t(item));
+    Told& last = told.at(item);
     const bool shown = isShown(item);
     if (shown == last.shown && (!shown || nameOf(item) == last.name))
         return;
@@ -259,12 +263,12 @@ void BoardVoice::followSelection()
         return;
     tell(selection, QAccessible::Selection);
     if (board.hasFocus())
-        tell(selection, QAccessible::Focus); // makes a screen reader say the card
+        tell(selection, QAccessible::Focus); // makes a screen reader read the card
 }
 
 void BoardVoice::forget(int item)
 {
-    Told& last = told.at(std::size_t(item));
+    Told& last = told.at(item);
     if (last.id != 0)
         QAccessible::deleteAccessibleInterface(last.id);
     last.id = 0;
@@ -272,7 +276,7 @@ void BoardVoice::forget(int item)
 
 QAccessibleInterface* BoardVoice::interfaceOf(int item)
 {
-    Told& last = told.at(std::size_t(item));
+    Told& last = told.at(item);
     if (last.id == 0)
         last.id = QAccessible::registerAccessibleInterface(new ItemInterface(board, item));
     return QAccessible::accessibleInterface(last.id);
@@ -301,7 +305,7 @@ int BoardVoice::indexOf(const QAccessibleInterface* wanted) const
     for (int item = 1; item < items; ++item) {
         if (!isShown(item))
             continue;
-        const QAccessible::Id id = told.at(std::size_t(item)).id;
+        const QAccessible::Id id = told.at(item).id;
         if (id != 0 && QAccessible::accessibleInterface(id) == wanted)
             return index;
         ++index;

@@ -1,5 +1,5 @@
-// The board for assistive technology: a list of its cards, each with its label, its place and what can be
-// done with it, and after them the bin and the captions. It is the way to the cards without a mouse.
+// The board for assistive technology: a list of the cards, each with its label, place and actions, followed
+// by the bin and the captions. It makes the cards usable without a mouse.
 #pragma once
 
 #include "core/session.h"
@@ -18,15 +18,16 @@ public:
     BoardVoice(const BoardVoice&) = delete;
     BoardVoice& operator=(const BoardVoice&) = delete;
 
-    /// Tells assistive technology what has come, gone, been renamed or selected since the last time.
+    /// Notifies assistive technology of items that have appeared, disappeared, been renamed or selected since
+    /// the last call.
     void follow();
-    /// The same for one card only: quick enough for every step of a flight.
+    /// The same for one card only; fast enough for every step of a flight.
     void follow(int card);
 
-    /// How news of an item is told; to assistive technology, when there is any.
+    /// Sends the notification about an item: to assistive technology, unless a test replaces it.
     std::function<void(int item, QAccessible::Event news)> tell;
 
-    // An item is something on the board that can be told: a card by its number, the bin, a caption.
+    // Items are numbered: the cards by their own number, then the bin, then the captions.
     int shownItems() const;
     QAccessibleInterface* shownItem(int index);
     int indexOf(const QAccessibleInterface* item) const;
@@ -34,7 +35,7 @@ public:
     QAccessibleInterface* selectedItem();
 
 private:
-    static constexpr int captions = 15; // of 13 groups, and the two titles of a find
+    static constexpr int captions = 15; // 13 group captions and the two titles of a find
     static constexpr int items = lastCard + 1 + 1 + captions;
 
     QAccessibleInterface* interfaceOf(int item);
@@ -43,7 +44,7 @@ private:
     void forget(int item);
 
     struct Told {
-        QAccessible::Id id = 0; // 0 until somebody asks for the item
+        QAccessible::Id id = 0; // 0 until the item is requested
         bool shown = false;
         QString name;
     };

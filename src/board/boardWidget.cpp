@@ -1,70 +1,76 @@
 #include "board/boardWidget.h"
 
-#include "core/screen.h"
-#include "platform/balloon.h"
+#include "board/boardKeys.h"
+#include "board/mode.h"
+#include "controls/balloon.h"
+#include "core/mainView.h"
 #include "platform/picture.h"
 
 #include <QApplication>
 #include <QCursor>
 #include <QFontMetrics>
 #include <QHelpEvent>
+#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPaintEvent>
 #include <QPainter>
-#include <QPointer>
+#include <QScreen>
 #include <QToolTip>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
 constexpr QSize pointerSize(32, 32);
-constexpr int restOfFinger = 800; // milliseconds until a finger counts as resting
+constexpr double slowestScreen = 30; // frames a second, where the screen reports an impossible rate
+constexpr double fastestScreen = 240;
+constexpr int restOfFinger = 800; // milliseconds until a touch counts as a long press
 
 struct PointerPicture {
     const char* name;
     QPoint hotSpot;
 };
 constexpr PointerPicture pointerPictures[] = {
-    {nullptr, {}}, // the arrow is the desktop's
+    {nullptr, {}}, // the desktop's own arrow
     {"handOpen", {16, 14}}, {"handClosed", {16, 14}}, {"cardSound", {13, 19}}, {"binCursor", {16, 16}},
 };
 
-QRect shownRect(const CardImage& card) { return card.visible ? wholePixels(card) : QRect(); }
-QRect shownRect(const BoardShape& shape) { return shape.visible ? wholePixels(shape) : QRect(); }
+template <class Thing>
+QRect shownRect(const Thing& thing, double ratio)
+{
+    return thing.visible ? paintedRect(thing, ratio) : QRect();
+}
 
 } // namespace
 
 BoardWidget::BoardWidget(QWidget* parent)
     : QWidget(parent)
 {
-    setAccessibleName(QStringLiteral("Board"));
-    setAccessibleDescription(QStringLiteral("The cards of the database"));
+    setAccessibleName(u"Board"_s);
+    setAccessibleDescription(u"The cards of the database"_s);
     setMouseTracking(true);
     setFocusPolicy(Qt::ClickFocus);
     setAttribute(Qt::WA_OpaquePaintEvent);
     fingerRests.setSingleShot(true);
     fingerRests.setInterval(restOfFinger);
+    pictureDue.setSingleShot(true);
+    pictureDue.setTimerType(Qt::PreciseTimer);
+    connect(&pictureDue, &QTimer::timeout, this, &BoardWidget::paintWhatMoved);
+    sinceStart.start();
     connect(&fingerRests, &QTimer::timeout, this, [this] { guarded([this] { hand.rest(); }); });
+    QAccessible::installActivationObserver(this);
     hand.whenPointerChanges([this] { showPointer(mapFromGlobal(QCursor::pos())); });
 }
 
-void BoardWidget::connectScreen()
+BoardWidget::~BoardWidget() { QAccessible::removeActivationObserver(this); }
+
+void BoardWidget::measureLabel(const QString& text, double& width, double& height) const
 {
-    const QPointer self(this);
-    ::screen.redrawBoard = [self] {
-        if (self)
-            self->repaintBoard();
-    };
-    ::screen.redrawCard = [self](int card) {
-        if (self)
-            self->repaintCard(card);
-    };
-    ::screen.measureLabel = [self](const QString& text, double& width, double& height) {
-        if (!self)
-            return;
-        self->ensurePolished();
-        width = self->fontMetrics().horizontalAdvance(text);
-        height = self->fontMetrics().height();
-    };
+    ensurePolished();
+    width = fontMetrics().horizontalAdvance(text);
+    height = fontMetrics().height();
 }
 
 // ---- painting ----
@@ -89,18 +95,37 @@ void BoardWidget::repaintBoard()
 {
     update();
     for (int i = 1; i <= lastCard; ++i)
-        shownCard[std::size_t(i)] = shownRect(session.box[i]);
-    shownFrame = shownRect(session.SelectBox);
+        shownCard[std::size_t(i)] = shownRect(session.box[i], devicePixelRatioF());
+    shownFrame = shownRect(session.board.SelectBox, devicePixelRatioF());
+    moved.reset();
     voice.follow();
 }
 
 void BoardWidget::repaintCard(int card)
 {
-    // Also when no whole pixel changed: painting is the pace of a flight.
-    repaintMoved(shownCard.at(std::size_t(card)), shownRect(session.box[card]));
-    if (shownFrame != shownRect(session.SelectBox))
-        repaintMoved(shownFrame, shownRect(session.SelectBox));
+    moved.set(card);
     voice.follow(card);
+    const qint64 wait = nextPicture - sinceStart.nsecsElapsed();
+    if (wait <= 0)
+        paintWhatMoved();
+    else if (!pictureDue.isActive())
+        pictureDue.start(int(wait / 1'000'000) + 1);
+}
+
+void BoardWidget::paintWhatMoved()
+{
+    const qint64 now = sinceStart.nsecsElapsed();
+    const auto pictureTime = qint64(1e9 / std::clamp(screen()->refreshRate(), slowestScreen, fastestScreen));
+    nextPicture = (now - nextPicture < pictureTime / 2 ? nextPicture : now) + pictureTime;
+    pictureDue.stop();
+    const double ratio = devicePixelRatioF();
+    for (std::size_t card = 1; card < moved.size(); ++card) {
+        if (moved[card])
+            repaintMoved(shownCard.at(card), shownRect(session.box[int(card)], ratio));
+    }
+    moved.reset();
+    if (shownFrame != shownRect(session.board.SelectBox, ratio))
+        repaintMoved(shownFrame, shownRect(session.board.SelectBox, ratio));
 }
 
 void BoardWidget::repaintMoved(QRect& before, const QRect& now)
@@ -116,8 +141,8 @@ void BoardWidget::repaintMoved(QRect& before, const QRect& now)
 
 void BoardWidget::resizeEvent(QResizeEvent*)
 {
-    session.boardWidth = width();
-    session.boardHeight = height();
+    session.board.width = width();
+    session.board.height = height();
 }
 
 // ---- the mouse ----
@@ -175,6 +200,41 @@ void BoardWidget::showPointer(QPointF point)
     setCursor(QCursor(picture(QLatin1String(name), pointerSize), hotSpot.x(), hotSpot.y()));
 }
 
+// ---- the keys ----
+
+void BoardWidget::showEvent(QShowEvent*)
+{
+    setFocusPolicy(boardHasKeys() ? Qt::StrongFocus : Qt::ClickFocus);
+}
+
+void BoardWidget::accessibilityActiveChanged(bool)
+{
+    setFocusPolicy(boardHasKeys() ? Qt::StrongFocus : Qt::ClickFocus);
+}
+
+void BoardWidget::keyPressEvent(QKeyEvent* event)
+{
+    const Qt::KeyboardModifiers held = event->modifiers() & ~Qt::KeypadModifier;
+    const bool shift = held == Qt::ShiftModifier;
+    const bool arrow = event->key() >= Qt::Key_Left && event->key() <= Qt::Key_Down;
+    event->setAccepted(boardHasKeys() && !boardIsCovered() && (shift || held == Qt::NoModifier) &&
+                       (arrow || !event->isAutoRepeat()));
+    if (!event->isAccepted())
+        return;
+    guarded([&] { event->setAccepted(pressBoardKey(event->key(), shift)); });
+    const int card = session.selectedCard;
+    if (arrow && session.board.SelectBox.visible)
+        showTip(card, mapToGlobal(wholePixels(session.box[card]).bottomLeft()));
+}
+
+void BoardWidget::focusInEvent(QFocusEvent* event)
+{
+    QWidget::focusInEvent(event);
+    const bool byKey = event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason;
+    if (byKey && !boardIsCovered())
+        guarded(selectPresentCard);
+}
+
 // ---- the tool tip ----
 
 bool BoardWidget::event(QEvent* event)
@@ -185,12 +245,16 @@ bool BoardWidget::event(QEvent* event)
     return true;
 }
 
-void BoardWidget::showTip(const QHelpEvent& help)
+void BoardWidget::showTip(const QHelpEvent& help) { showTip(cardAt(help.pos()), help.globalPos()); }
+
+/// The whole label of the card at that point of the screen.
+void BoardWidget::showTip(int card, QPoint point)
 {
-    const int card = cardAt(help.pos());
-    const QString hint = card == 0 ? QString() : plainHint(session.box[card].tooltip);
+    if (card == 0)
+        return; // the bin's hint stays
+    const QString hint = plainHint(session.box[card].tooltip);
     if (hint.isEmpty())
         QToolTip::hideText();
     else
-        QToolTip::showText(help.globalPos(), hint, this, wholePixels(session.box[card]));
+        QToolTip::showText(point, hint, this, wholePixels(session.box[card]));
 }

@@ -1,7 +1,8 @@
-// The board: one widget that shows what lies on it and lets a child handle the cards and the bin.
+// The board: one widget that shows the cards, bin and captions and handles mouse and touch.
 //
-// It holds no state of the database: it paints the session's and lets the hand change it. A finger does what
-// the mouse's left button does; one that rests on a card has it play its sound.
+// It holds no database state: it paints the session's data, and `hand` changes that data. Cards that fly or
+// are dragged are painted once for each frame of the screen, however often they move. A touch acts like the
+// left mouse button; a long press on a card plays its sound.
 #pragma once
 
 #include "board/boardPainter.h"
@@ -10,23 +11,28 @@
 #include "core/session.h"
 #include "platform/picture.h"
 
+#include <QElapsedTimer>
 #include <QTimer>
 #include <QWidget>
 
 #include <array>
+#include <bitset>
 
 class QHelpEvent;
 
-class BoardWidget : public QWidget {
+class BoardWidget : public QWidget, private QAccessible::ActivationObserver {
     Q_OBJECT
     Q_PROPERTY(QColor paper MEMBER paper)
     Q_PROPERTY(QColor leftTint MEMBER leftTint)
     Q_PROPERTY(QColor rightTint MEMBER rightTint)
 public:
     explicit BoardWidget(QWidget* parent = nullptr);
+    ~BoardWidget() override;
 
-    /// Answers the screen's calls for the board from now on: redrawing it and measuring captions.
-    void connectScreen();
+    void repaintBoard();
+    void repaintCard(int card);
+    /// The size of a caption in the board's font, in pixels.
+    void measureLabel(const QString& text, double& width, double& height) const;
 
     BoardVoice voice{*this};
 
@@ -39,13 +45,17 @@ protected:
     void mouseReleaseEvent(QMouseEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;
     void leaveEvent(QEvent* event) override;
+    void showEvent(QShowEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
 
 private:
-    void repaintBoard();
-    void repaintCard(int card);
+    void accessibilityActiveChanged(bool active) override;
+    void paintWhatMoved();
     void repaintMoved(QRect& before, const QRect& now);
     void showPointer(QPointF point);
     void showTip(const QHelpEvent& help);
+    void showTip(int card, QPoint point);
     BoardLook look() const;
 
     QColor paper = Qt::white;
@@ -58,7 +68,13 @@ private:
     QTimer fingerRests;
     QPointF fingerPressed;
 
-    // What the screen shows, to be painted over when it moves.
+    // What was painted where, so that the old place is repainted after a move.
     std::array<QRect, lastCard + 1> shownCard;
     QRect shownFrame;
+
+    // Cards that have moved since, to be painted when the screen shows its next picture.
+    std::bitset<lastCard + 1> moved;
+    QElapsedTimer sinceStart;
+    qint64 nextPicture = 0; // nanoseconds since then
+    QTimer pictureDue;
 };

@@ -1,6 +1,6 @@
 #include "board/faces.h"
 
-#include "core/screen.h"
+#include "core/mainView.h"
 #include "core/session.h"
 #include "platform/colour.h"
 #include "platform/desktop.h"
@@ -11,10 +11,11 @@
 #include <QFontMetricsF>
 #include <QPainter>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-constexpr int stripSize = 2;
-constexpr int dotsPerMetre = 3780; // 96 to the inch: a board pixel, whatever the screen
+constexpr int dotsPerMetre = 3780; // 96 to the inch: the font's size is in board pixels on every device
 
 struct Measures {
     double width;
@@ -24,26 +25,23 @@ constexpr Measures measuresOfSize[] = {{40, 30}, {80, 60}, {80, 24}};
 
 QFont labelFont()
 {
-    QFont font = namedFont(QStringLiteral("Comic Sans MS"), 10);
+    QFont font = namedFont(u"Comic Sans MS"_s, 10);
     font.setBold(true);
     font.setStyleStrategy(QFont::NoSubpixelAntialias); // faces are also printed and scaled
     return font;
 }
 
-/// The face before its label is printed, in as many pixels as the screen has for these measures: the picture,
-/// or white for a strip.
-QImage faceWithoutLabel(const QSize& size)
+QImage faceWithoutLabel(const QImage& picture, const FaceLook& look)
 {
-    const double ratio = desktop.pixelRatio();
-    const QSize pixels = (QSizeF(size) * ratio).toSize();
+    const QSize pixels = (QSizeF(look.size) * look.pixelRatio).toSize();
     QImage face;
-    if (session.cardSize == stripSize) {
+    if (look.strip) {
         face = QImage(pixels, QImage::Format_RGB32);
         face.fill(Qt::white);
     } else {
-        face = stretched(session.Picture1.shown(), pixels);
+        face = stretched(picture, pixels);
     }
-    face.setDevicePixelRatio(ratio);
+    face.setDevicePixelRatio(look.pixelRatio);
     face.setDotsPerMeterX(dotsPerMetre);
     face.setDotsPerMeterY(dotsPerMetre);
     return face;
@@ -55,36 +53,49 @@ void print(QPainter& painter, const QPointF& corner, const QColor& ink, const QS
     painter.drawText(corner + QPointF(0, painter.fontMetrics().ascent()), text);
 }
 
-void printLabel(QPainter& painter, const QString& label)
+void printLabel(QPainter& painter, const QString& label, const FaceLook& look)
 {
-    const bool strip = session.cardSize == stripSize;
-    if (strip)
+    if (look.strip)
         painter.fillRect(0, 0, 1, 1, Qt::blue);
     print(painter, {1, 1}, Qt::black, label); // on a picture the shadow
-    if (!strip)
-        print(painter, {0, 0}, colourOf(session.ColText), label);
+    if (!look.strip)
+        print(painter, {0, 0}, look.labelColour, label);
 }
 
 } // namespace
 
-void drawCardFace(int card)
+QImage cardFace(const QImage& picture, const QString& label, const FaceLook& look)
 {
-    const QString label = session.cardValue[card][1];
-    const QSize size(session.shrinkdummy.width, session.shrinkdummy.height);
-    QImage face = faceWithoutLabel(size);
+    QImage face = faceWithoutLabel(picture, look);
     {
         QPainter painter(&face);
         painter.setFont(labelFont());
-        printLabel(painter, label);
+        printLabel(painter, label, look);
     }
-    session.shrinkdummy.image = face;
+    return face;
+}
+
+FaceLook boardFaceLook()
+{
+    return {{session.editor.shrinkdummy.width, session.editor.shrinkdummy.height},
+            desktop.screen.pixelRatio(),
+            session.cardSize == stripSize,
+            colourOf(session.options.ColText)};
+}
+
+void drawCardFace(int card)
+{
+    const FaceLook look = boardFaceLook();
+    const QString label = session.cardValue[card][1];
+    const QImage face = cardFace(look.strip ? QImage() : session.editor.Picture1.shown(), label, look);
+    session.editor.shrinkdummy.image = face;
 
     CardImage& image = session.box[card];
     image.tooltip = label;
-    image.width = size.width();
-    image.height = size.height();
+    image.width = look.size.width();
+    image.height = look.size.height();
     image.picture = face;
-    screen.redrawCard(card);
+    mainView.redrawCard(card);
 }
 
 void resizeAllCards()
@@ -93,8 +104,8 @@ void resizeAllCards()
         session.cardWidth = measuresOfSize[session.cardSize].width;
         session.cardHeight = measuresOfSize[session.cardSize].height;
     }
-    session.shrinkdummy.width = int(session.cardWidth);
-    session.shrinkdummy.height = int(session.cardHeight);
+    session.editor.shrinkdummy.width = int(session.cardWidth);
+    session.editor.shrinkdummy.height = int(session.cardHeight);
     session.box[0].width = session.cardWidth;
     session.box[0].height = session.cardHeight;
     for (int i = 1; i <= session.numCards; ++i) {

@@ -2,16 +2,18 @@
 
 #include "board/boardPainter.h"
 #include "board/places.h"
+#include "core/mainView.h"
 #include "core/menu.h"
-#include "core/screen.h"
 #include "core/session.h"
 #include "store/cardFiles.h"
 
 #include <algorithm>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-constexpr QRectF lidOfBin(12 / 128.0, 0, 112 / 128.0, 56 / 150.0); // as parts of the bin's picture
+constexpr QRectF lidOfBin(12 / 128.0, 0, 112 / 128.0, 56 / 150.0); // as fractions of the bin's picture
 
 bool isOn(const BoardShape& shape, QPointF point)
 {
@@ -20,34 +22,34 @@ bool isOn(const BoardShape& shape, QPointF point)
 
 bool isOnLid(QPointF point)
 {
-    const BoardShape& bin = session.BigBin;
+    const BoardShape& bin = session.board.BigBin;
     const BoardShape lid{bin.left + lidOfBin.left() * bin.width, bin.top + lidOfBin.top() * bin.height,
                          lidOfBin.width() * bin.width, lidOfBin.height() * bin.height, bin.visible};
     return isOn(lid, point);
 }
 
-/// Notes in twips where the mouse holds the thing.
+/// Stores where the mouse holds the object, in twips.
 template <class Thing>
 void noteGrip(const Thing& thing, QPointF point)
 {
-    session.dragOffsetX = (point.x() - thing.left) * session.twipsPerPixelX;
-    session.dragOffsetY = (point.y() - thing.top) * session.twipsPerPixelY;
+    session.board.dragOffsetX = (point.x() - thing.left) * session.twipsPerPixelX;
+    session.board.dragOffsetY = (point.y() - thing.top) * session.twipsPerPixelY;
 }
 
-/// Moves the thing so that the mouse, at `point`, holds it where it took it.
+/// Moves the object with the mouse, which is at `point`.
 template <class Thing>
 void dragTo(Thing& thing, QPointF point)
 {
-    thing.left = point.x() - session.dragOffsetX / session.twipsPerPixelX;
-    thing.top = point.y() - session.dragOffsetY / session.twipsPerPixelY;
+    thing.left = point.x() - session.board.dragOffsetX / session.twipsPerPixelX;
+    thing.top = point.y() - session.board.dragOffsetY / session.twipsPerPixelY;
 }
 
-/// The card lies where it is to stay.
+/// The card was let go and stays where it is.
 void letGoOfCard(int card)
 {
     session.box[card].cursor = CardCursor::handOpen;
     saveCardPosition(card);
-    screen.cardDropped(card); // may ask, delete the card and number the others anew
+    mainView.cardDropped(card); // may ask, delete the card and renumber the others
     markCard(session.selectedCard);
 }
 
@@ -56,7 +58,7 @@ void raise(int card)
     if (session.cardStack.fromBelow().back() == card)
         return;
     session.cardStack.bringToFront(card);
-    screen.redrawCard(card);
+    mainView.redrawCard(card);
 }
 
 } // namespace
@@ -80,26 +82,26 @@ void selectCard(int card)
 
 void openInEditor(int card)
 {
-    screen.setRefresh(QStringLiteral("Off"));
-    screen.openCard(card);
+    mainView.setRefresh(u"Off"_s);
+    mainView.openCard(card);
 }
 
 void dropOnBin(int card)
 {
     CardImage& image = session.box[card];
-    const Bin& bin = session.BigBin;
+    const Bin& bin = session.board.BigBin;
     image.left = bin.left + (bin.width - image.width) / 2;
     image.top = bin.top + (bin.height - image.height) / 2;
-    screen.redrawCard(card);
+    mainView.redrawCard(card);
     letGoOfCard(card);
 }
 
 void closeBin()
 {
-    session.BigBin.lidPressed = false;
-    session.BigBin.visible = false;
-    screen.hideHints();
-    screen.redrawBoard();
+    session.board.BigBin.lidPressed = false;
+    session.board.BigBin.visible = false;
+    mainView.hideHints();
+    mainView.redrawBoard();
 }
 
 Hand::Place Hand::placeAt(QPointF point)
@@ -108,14 +110,14 @@ Hand::Place Hand::placeAt(QPointF point)
         return {Part::card, card, session.cardId[card]};
     if (isOnLid(point))
         return {Part::lid, 0, {}};
-    if (isOn(session.BigBin, point))
+    if (isOn(session.board.BigBin, point))
         return {Part::bin, 0, {}};
     return {};
 }
 
 void Hand::press(QPointF point)
 {
-    if (!holding) // a second button takes hold of the same thing
+    if (!holding) // a second button keeps hold of the same object
         held = placeAt(point);
     holding = true;
     if (held.part == Part::card) {
@@ -124,23 +126,24 @@ void Hand::press(QPointF point)
         session.selectedCard = qint16(held.card);
         markCard(held.card);
     } else if (held.part == Part::bin) {
-        noteGrip(session.BigBin, point);
+        noteGrip(session.board.BigBin, point);
     } else if (held.part == Part::lid) {
-        session.BigBin.lidPressed = true;
-        screen.redrawBoard();
+        session.board.BigBin.lidPressed = true;
+        mainView.redrawBoard();
     }
 }
 
 void Hand::moveTo(QPointF point, bool pressed)
 {
-    // A reload may have given the held card's number to another card, and a release may go to another window.
+    // A reload may have given the held card's number to another card, and the release may have gone to
+    // another window.
     const bool lost = held.part == Part::card && session.cardId[held.card] != held.id;
     holding = holding && pressed && !lost;
     under = holding ? held : placeAt(point);
     if (under.part != Part::card)
         sounds.endPass();
     if (under.part == Part::card || under.part == Part::board)
-        screen.hideHints();
+        mainView.hideHints();
 
     if (under.part == Part::card)
         moveOverCard(under.card, point);
@@ -155,7 +158,7 @@ void Hand::moveOverCard(int card, QPointF point)
     raise(card);
     if (holding) {
         dragTo(session.box[card], point);
-        screen.redrawCard(card);
+        mainView.redrawCard(card);
         markCard(session.selectedCard);
     }
 }
@@ -163,11 +166,10 @@ void Hand::moveOverCard(int card, QPointF point)
 void Hand::moveOverBin(Part part, QPointF point)
 {
     if (holding && part == Part::bin) {
-        dragTo(session.BigBin, point);
-        screen.redrawBoard();
+        dragTo(session.board.BigBin, point);
+        mainView.redrawBoard();
     }
-    screen.showHint(
-        QStringLiteral("Click and drag the bin anywhere on the screen , Click on the lid to close it"));
+    mainView.showHint(u"Click and drag the bin anywhere on the screen , Click on the lid to close it"_s);
 }
 
 void Hand::letGo(bool rightButton, bool stillPressed)
@@ -197,7 +199,7 @@ bool Hand::openCardAt(QPointF point)
     const int card = cardAt(point);
     if (card == 0)
         return false;
-    holding = false; // the editor takes the mouse from here
+    holding = false; // the editor gets the release
     openInEditor(card);
     return true;
 }
@@ -206,7 +208,7 @@ void Hand::leave()
 {
     under = {};
     sounds.endPass();
-    screen.hideHints();
+    mainView.hideHints();
 }
 
 Hand::Pointer Hand::pointerAt(QPointF point) const

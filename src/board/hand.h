@@ -1,6 +1,6 @@
-// The child's hand on the board: what pressing, moving and letting go does to cards, bin and menu.
+// Mouse and touch on the board: what press, move and release do to cards, bin and menu.
 //
-// Points are in board pixels; where a thing is held is noted in twips, as all mouse events tell it.
+// Points are in board pixels; the grip on a dragged object is stored in twips.
 #pragma once
 
 #include "board/soundLookup.h"
@@ -11,15 +11,15 @@
 /// The topmost visible card at that point, 0 when there is none.
 int cardAt(QPointF point);
 
-// What a hand does in one go, for those who don't use a mouse.
+// Whole actions, for use without a mouse.
 
-/// Makes the card the selected one, raised and framed.
+/// Selects the card, raises and frames it.
 void selectCard(int card);
 /// Turns the refresh off and opens the card in the editor.
 void openInEditor(int card);
-/// Carries the card to the middle of the bin and lets it go there.
+/// Moves the card to the middle of the bin and drops it there.
 void dropOnBin(int card);
-/// Closes the bin, as its lid does.
+/// Closes the bin, like a click on its lid.
 void closeBin();
 
 class Hand {
@@ -27,20 +27,20 @@ public:
     enum class Pointer { arrow, handOpen, handClosed, cardSound, bin };
 
     void press(QPointF point);
-    /// `pressed`: any button is held. Passing over a card raises it, pressed or not.
+    /// `pressed`: a button is held. A card under the mouse is raised, pressed or not.
     void moveTo(QPointF point, bool pressed);
-    /// A button was let go; `stillPressed`: another one is held.
+    /// A button was released; `stillPressed`: another one is held.
     void letGo(bool rightButton, bool stillPressed);
-    /// A finger rests where it pressed: plays the card's sound, as letting go of the right button does.
+    /// A long press: plays the card's sound, like a click of the right button.
     void rest();
-    /// Opens the card there in the editor; false when there is none.
+    /// Opens the card at that point in the editor; false when there is none.
     bool openCardAt(QPointF point);
     /// The mouse has left the board.
     void leave();
 
-    /// What the mouse pointer looks like at that point.
+    /// The shape of the mouse pointer at that point.
     Pointer pointerAt(QPointF point) const;
-    /// Calls when the look of the pointer may have changed by itself.
+    /// Sets the function to call when the pointer's shape may change although the mouse doesn't move.
     void whenPointerChanges(std::function<void()> changed);
 
 private:
@@ -48,7 +48,7 @@ private:
     struct Place {
         Part part = Part::board;
         int card = 0;
-        QString id; // tells whether the number still means that card
+        QString id; // to check whether the number still belongs to that card
     };
 
     static Place placeAt(QPointF point);

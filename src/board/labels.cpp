@@ -1,18 +1,21 @@
 #include "board/labels.h"
 
-#include "core/screen.h"
+#include "core/mainView.h"
 #include "core/session.h"
+
+using namespace Qt::StringLiterals;
 
 void clearBoardLabels()
 {
-    for (BoardLabel& label : session.GroupLabel) {
+    for (BoardLabel& label : session.board.groupTitle) {
         label.visible = false;
-        label.text = QStringLiteral("Group Label");
+        label.text = u"Group Label"_s;
     }
-    session.searchTitle.visible = false;
-    session.otherTitle.visible = false;
-    for (BoardShape* shape : {&session.VennBox, &session.VennLeftCircle, &session.VennRightCircle})
+    session.board.searchTitle.visible = false;
+    session.board.otherTitle.visible = false;
+    for (BoardShape* shape :
+         {&session.board.VennBox, &session.board.VennLeftCircle, &session.board.VennRightCircle})
         shape->visible = false;
-    session.boardColour = session.BCol;
-    screen.redrawBoard();
+    session.board.colour = session.options.BCol;
+    mainView.redrawBoard();
 }

@@ -1,5 +1,5 @@
 // The captions and circles that the find and group tools leave on the board.
 #pragma once
 
-/// Takes them all away and gives the board its own colour again.
+/// Removes them all and gives the board its own colour again.
 void clearBoardLabels();

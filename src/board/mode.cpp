@@ -1,29 +1,34 @@
 #include "board/mode.h"
 
 #include "board/labels.h"
-#include "core/screen.h"
+#include "core/mainView.h"
 #include "core/session.h"
+
+using namespace Qt::StringLiterals;
 
 void setMode(const QString& mode)
 {
     withErrorBox([&] {
         clearBoardLabels();
-        session.MSChart.visible = false;
-        session.boardColour = session.BCol;
-        if (mode == QLatin1String("card")) {
-            session.tablePanel.visible = false;
-            session.editBox.visible = false;
-        } else if (mode == QLatin1String("table")) {
-            screen.showTable();
+        session.window.MSChart.visible = false;
+        session.window.cmdCopyGraph.visible = false;
+        session.board.colour = session.options.BCol;
+        if (mode == "card"_L1) {
+            session.table.panel.visible = false;
+            session.table.editBox.visible = false;
+        } else if (mode == "table"_L1) {
+            mainView.showTable();
         }
-        screen.showControls();
-        screen.redrawBoard();
+        mainView.showControls();
+        mainView.redrawBoard();
     });
 }
 
 void showCardMode()
 {
-    session.btnTable.pressed = false;
-    session.btnCards.pressed = true;
-    setMode(QStringLiteral("card"));
+    session.window.btnTable.pressed = false;
+    session.window.btnCards.pressed = true;
+    setMode(u"card"_s);
 }
+
+bool boardIsCovered() { return session.table.panel.visible || session.window.MSChart.visible; }

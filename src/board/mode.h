@@ -3,10 +3,13 @@
 
 #include <QString>
 
-/// Shows the view of that word, "card" or "table", without captions and without the graph. An error shows
-/// the error box and leaves the state reached so far.
+/// Switches to the view "card" or "table" and removes captions and graph. An error is shown in the error box;
+/// the state reached so far stays.
 void setMode(const QString& mode);
 
-/// Presses btnCards, as commands do that work on the board: unlike the pupil's own click, it doesn't read
-/// the folder again.
+/// Switches to the cards, for commands that work on the board. Unlike a click on btnCards it doesn't reload
+/// the folder.
 void showCardMode();
+
+/// The table or the chart covers the board: nothing on it is seen, read out or reached by keys.
+bool boardIsCovered();

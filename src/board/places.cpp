@@ -1,6 +1,6 @@
 #include "board/places.h"
 
-#include "core/screen.h"
+#include "core/mainView.h"
 #include "core/session.h"
 #include "platform/desktop.h"
 #include "platform/values.h"
@@ -11,13 +11,13 @@ namespace {
 
 constexpr int tries = 20;
 constexpr int frameGap = 2;         // between a card and the outer edge of its frame, pixels
-constexpr int firstHalf = 4;        // characters of a position that tell the left
+constexpr int firstHalf = 4;        // characters of a position that hold the left
 constexpr double roomForMenu = 100; // pixels kept free at the top
 
 void moveToRandomPlace(CardImage& card)
 {
-    card.left = (session.boardWidth - 2.5 * card.width) * desktop.random() + card.width / 2;
-    card.top = (session.boardHeight - roomForMenu - 1.5 * card.height) * desktop.random() + roomForMenu;
+    card.left = (session.board.width - 2.5 * card.width) * desktop.random() + card.width / 2;
+    card.top = (session.board.height - roomForMenu - 1.5 * card.height) * desktop.random() + roomForMenu;
 }
 
 } // namespace
@@ -33,7 +33,7 @@ void placeCard(int card)
     const QString position = session.cardValue[card][0];
     session.box[card].left = leadingNumber(position.left(firstHalf));
     session.box[card].top = leadingNumber(position.mid(firstHalf));
-    screen.redrawCard(card);
+    mainView.redrawCard(card);
 }
 
 void placeCardAtRandom(int card)
@@ -44,7 +44,7 @@ void placeCardAtRandom(int card)
         if (cardOverlaps(card))
             moveToRandomPlace(image);
     }
-    screen.redrawCard(card);
+    mainView.redrawCard(card);
 }
 
 bool cardOverlaps(int card)
@@ -66,7 +66,7 @@ bool cardOverlaps(int card)
 void markCard(int card)
 {
     const CardImage& marked = session.box[card];
-    session.SelectBox = {marked.left - frameGap, marked.top - frameGap, marked.width + 2 * frameGap,
-                         marked.height + 2 * frameGap, true};
-    screen.redrawCard(card);
+    session.board.SelectBox = {marked.left - frameGap, marked.top - frameGap, marked.width + 2 * frameGap,
+                               marked.height + 2 * frameGap, true};
+    mainView.redrawCard(card);
 }

@@ -1,18 +1,18 @@
-// Where a card lies on the board, the frame that marks one, and finding a free place.
+// A card's place on the board, the frame around the selected card, and finding a free place.
 #pragma once
 
-/// Notes the card's place in its position field; memory only.
+/// Stores the card's place in its position field, in memory only.
 void saveCardPosition(int card);
 
-/// Puts the card where its position field says; without a place it goes to 0, 0.
+/// Moves the card to the place in its position field, or to 0, 0 when that is empty.
 void placeCard(int card);
 
-/// Puts the card at a random place on the board below the menu, twenty times anew while it overlaps another.
-/// The last place stands, free or not.
+/// Moves the card to a random place on the board below the menu, with up to twenty attempts to overlap no
+/// other card. The last place is kept, free or not.
 void placeCardAtRandom(int card);
 
-/// True when another visible card lies less than this card's width and height away. An error makes it false.
+/// True when another visible card is less than this card's width and height away. False after an error.
 bool cardOverlaps(int card);
 
-/// Frames the card with SelectBox.
+/// Puts SelectBox around the card.
 void markCard(int card);

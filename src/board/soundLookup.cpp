@@ -1,12 +1,9 @@
 #include "board/soundLookup.h"
 
 #include "core/session.h"
-#include "store/paths.h"
+#include "store/cardFiles.h"
 
-#include <QCoreApplication>
 #include <QFileInfo>
-#include <QPointer>
-#include <QThreadPool>
 
 bool SoundLookup::hasSound(int card)
 {
@@ -24,17 +21,11 @@ void SoundLookup::askFolder()
     if (running)
         return;
     running = true;
-    QThreadPool::globalInstance()->start([question = asked, self = QPointer(this)] {
-        const QString name = question.cardId + QStringLiteral(".snd");
-        const bool sound = QFileInfo(filePathIn(question.folder, name)).isFile();
-        QMetaObject::invokeMethod(
-            qApp,
-            [question, sound, self] {
-                if (self)
-                    self->take(question, sound);
-            },
-            Qt::QueuedConnection);
-    });
+    errands.send(
+        [question = asked](const Errands::Forgotten&) {
+            return QFileInfo(cardFilePath(question.folder, question.cardId, soundEnding)).isFile();
+        },
+        [this, question = asked](bool sound) { take(question, sound); });
 }
 
 void SoundLookup::take(const Question& question, bool sound)

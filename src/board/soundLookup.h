@@ -1,21 +1,20 @@
-// Whether the card under the mouse has a sound, without making the mouse wait for the folder.
+// Finds out whether the card under the mouse has a sound, without blocking on a slow folder.
 #pragma once
 
-#include <QObject>
+#include "platform/errands.h"
+
 #include <QString>
 
 #include <functional>
 
-/// Asks the folder on another thread, once for each pass of the mouse over a card, and remembers the answer
-/// for as long as the mouse stays on it. Only the latest question waits while one is being answered.
-class SoundLookup : public QObject {
+/// Looks into the folder on another thread, once each time the mouse enters a card, and keeps the answer
+/// while the mouse stays on it. While a look-up runs only the latest request is queued.
+class SoundLookup {
 public:
-    using QObject::QObject;
-
-    /// True when the card is known to have a sound. False too while the answer isn't there yet; `answered` is
-    /// called when it is.
+    /// True when the card is known to have a sound. False also while the answer is pending; `answered` is
+    /// called when it has come.
     bool hasSound(int card);
-    /// The mouse has left the card: the next question goes to the folder again.
+    /// The mouse has left the card: forgets the answer.
     void endPass() { asked = {}; }
 
     std::function<void()> answered = [] {};
@@ -34,4 +33,5 @@ private:
     bool known = false;
     bool answer = false;
     bool running = false;
+    Errands errands;
 };

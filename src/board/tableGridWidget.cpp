@@ -1,8 +1,8 @@
 #include "board/tableGridWidget.h"
 
 #include "board/tableView.h"
+#include "controls/balloon.h"
 #include "core/session.h"
-#include "platform/balloon.h"
 #include "platform/errors.h"
 #include "platform/textLines.h"
 
@@ -14,16 +14,18 @@
 #include <QStyledItemDelegate>
 #include <QWheelEvent>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int faceColumn = 1;
 constexpr int headerLines = 2;
-constexpr int headerPadding = 10; // left and right of a name together, with the line between columns
+constexpr int headerPadding = 10; // left and right of a name together, including the line between columns
 
-/// The row of cells, from 0, that shows the last card; less where it was scrolled out of view.
-int rowOfLastCard() { return session.numCards - session.gridScroll.value - 1; }
+/// The row of cells, from 0, that shows the last card; smaller when the last card is scrolled out of view.
+int rowOfLastCard() { return session.numCards - session.table.gridScroll.value - 1; }
 
-/// Paints a face as it is, from the cell's upper left corner.
+/// Paints a face unscaled from the cell's upper left corner.
 class FaceDelegate : public QStyledItemDelegate {
 public:
     using QStyledItemDelegate::QStyledItemDelegate;
@@ -44,8 +46,8 @@ public:
 TableGridWidget::TableGridWidget(QWidget* parent)
     : QTableWidget(parent)
 {
-    setObjectName(QStringLiteral("Grid"));
-    setAccessibleName(QStringLiteral("Table"));
+    setObjectName(u"Grid"_s);
+    setAccessibleName(u"Table"_s);
     setEditTriggers(NoEditTriggers);
     setSelectionMode(SingleSelection);
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
@@ -64,30 +66,30 @@ TableGridWidget::TableGridWidget(QWidget* parent)
 
 int TableGridWidget::headerHeight() const
 {
-    horizontalHeader()->ensurePolished(); // its font is that of the style sheet only then
+    horizontalHeader()->ensurePolished(); // applies the style sheet's font
     return horizontalHeader()->sizeHint().height();
 }
 
 void TableGridWidget::showGrid()
 {
-    const TableGrid& grid = session.Grid;
+    const TableGrid& grid = session.table.Grid;
     setColumnCount(grid.cols);
     setRowCount(std::max(grid.rows - 1, 0));
-    showName(0, QStringLiteral("No."));
-    showName(faceColumn, QStringLiteral("Card"));
+    showName(0, u"No."_s);
+    showName(faceColumn, u"Card"_s);
     for (int column = faceColumn + 1; column < grid.cols; ++column)
-        showName(column, grid.text[0][std::size_t(column)]);
+        showName(column, grid.text[0][column]);
     for (int row = 1; row < grid.rows; ++row)
         showRow(row);
 }
 
-/// A name too long for its column stands in two lines, and whole in its hint.
+/// A name too long for its column is shown in two lines, with the whole name as its hint.
 void TableGridWidget::showName(int column, const QString& name)
 {
-    const int width = session.Grid.columnWidths[std::size_t(column)];
+    const int width = session.table.Grid.columnWidths[column];
     const QTableWidgetItem* old = horizontalHeaderItem(column);
     if (old != nullptr && columnWidth(column) == width && old->data(Qt::AccessibleTextRole) == name)
-        return; // breaking lines takes longer than a row of cells
+        return; // unchanged: breaking lines takes longer than filling a row
     setColumnWidth(column, width);
     QFont font = horizontalHeader()->font();
     font.setBold(true);
@@ -99,7 +101,7 @@ void TableGridWidget::showName(int column, const QString& name)
 
 void TableGridWidget::showRow(int row)
 {
-    const TableGrid& grid = session.Grid;
+    const TableGrid& grid = session.table.Grid;
     const bool last = row == grid.rows - 1;
     setRowHeight(row - 1, last ? verticalHeader()->defaultSectionSize() : cardRowHeight);
     for (int column = 0; column < grid.cols; ++column) {
@@ -109,10 +111,10 @@ void TableGridWidget::showRow(int row)
             shown->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable);
             setItem(row - 1, column, shown);
         }
-        const QString& text = grid.text[std::size_t(row)][std::size_t(column)];
+        const QString& text = grid.text[row][column];
         if (column == faceColumn) {
-            shown->setData(Qt::DecorationRole, grid.face[std::size_t(row)]);
-            shown->setData(Qt::AccessibleTextRole, grid.text[std::size_t(row)][2]);
+            shown->setData(Qt::DecorationRole, grid.face[row]);
+            shown->setData(Qt::AccessibleTextRole, grid.text[row][2]);
         } else {
             shown->setText(text);
             shown->setToolTip(plainHint(text));
@@ -123,7 +125,7 @@ void TableGridWidget::showRow(int row)
 void TableGridWidget::keyPressEvent(QKeyEvent* event)
 {
     const int lastFullRow = std::max(rowCount() - 2, 0);
-    const int page = session.gridScroll.largeChange;
+    const int page = session.table.gridScroll.largeChange;
     switch (event->key()) {
     case Qt::Key_PageDown:
         scrollWanted(page);
@@ -133,10 +135,10 @@ void TableGridWidget::keyPressEvent(QKeyEvent* event)
         scrollWanted(-page);
         return;
     case Qt::Key_Home:
-        scrollWanted(-session.gridScroll.max);
+        scrollWanted(-session.table.gridScroll.max);
         return;
     case Qt::Key_End:
-        scrollWanted(session.numCards - 1 - session.gridScroll.value);
+        scrollWanted(session.numCards - 1 - session.table.gridScroll.value);
         keepOnCards();
         return;
     case Qt::Key_Down:
@@ -159,7 +161,7 @@ void TableGridWidget::keyPressEvent(QKeyEvent* event)
     QTableWidget::keyPressEvent(event);
 }
 
-/// The cell with the keyboard is one of a card.
+/// Moves the current cell up to the last card when it is below it.
 void TableGridWidget::keepOnCards()
 {
     const int last = std::max(rowOfLastCard(), 0);
@@ -179,7 +181,8 @@ void TableGridWidget::dragMoveEvent(QDragMoveEvent* event) { event->acceptPropos
 
 void TableGridWidget::dropEvent(QDropEvent* event)
 {
-    const QPointF place = event->position() + QPointF(0, session.Grid.headerHeight); // of the viewport
+    const QPointF place =
+        event->position() + QPointF(0, session.table.Grid.headerHeight); // from viewport to grid coordinates
     const QList<QUrl> files = event->mimeData()->urls();
     event->acceptProposedAction();
     const int row = rowOfDrop(place.x(), place.y());

@@ -14,7 +14,7 @@ public:
     int headerHeight() const;
     void showGrid();
 
-    /// Asks for rows further down (or up, when negative).
+    /// Requests scrolling by that many rows (up when negative).
     std::function<void(int rows)> scrollWanted;
 
 protected:

@@ -10,6 +10,8 @@
 
 #include <utility>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr double turnOfOneRow = 120; // eighths of a degree
@@ -21,9 +23,9 @@ TablePanel::TablePanel(QWidget* parent)
     , Grid(new TableGridWidget(this))
     , gridScroll(new QScrollBar(Qt::Vertical, this))
 {
-    setObjectName(QStringLiteral("tablePanel"));
-    gridScroll->setObjectName(QStringLiteral("gridScroll"));
-    gridScroll->setAccessibleName(QStringLiteral("Scroll the table"));
+    setObjectName(u"tablePanel"_s);
+    gridScroll->setObjectName(u"gridScroll"_s);
+    gridScroll->setAccessibleName(u"Scroll the table"_s);
     Grid->scrollWanted = [this](int rows) { scrollBy(rows); };
     connect(gridScroll, &QScrollBar::valueChanged, this,
             [](int value) { guarded([&] { scrollTableTo(value); }); });
@@ -33,11 +35,11 @@ void TablePanel::layOut(const QRect& gridPlace, const QRect& scrollPlace)
 {
     Grid->setGeometry(gridPlace);
     gridScroll->setGeometry(scrollPlace);
-    session.Grid.width = gridPlace.width();
-    session.Grid.height = gridPlace.height();
-    if (!session.tablePanel.visible)
+    session.table.Grid.width = gridPlace.width();
+    session.table.Grid.height = gridPlace.height();
+    if (!session.table.panel.visible)
         return;
-    const int firstInView = session.gridScroll.value;
+    const int firstInView = session.table.gridScroll.value;
     enter();
     scrollTableTo(firstInView);
 }
@@ -46,8 +48,8 @@ void TablePanel::enter()
 {
     layoutTable();
     fillTable();
-    const int headerHeight = Grid->headerHeight(); // told by the names in it
-    if (std::exchange(session.Grid.headerHeight, headerHeight) == headerHeight)
+    const int headerHeight = Grid->headerHeight(); // depends on the names in it
+    if (std::exchange(session.table.Grid.headerHeight, headerHeight) == headerHeight)
         return;
     layoutTable();
     fillTable();
@@ -56,9 +58,9 @@ void TablePanel::enter()
 void TablePanel::showGrid()
 {
     const QSignalBlocker quiet(gridScroll); // the session has scrolled already
-    gridScroll->setRange(0, session.gridScroll.max);
-    gridScroll->setPageStep(session.gridScroll.largeChange);
-    gridScroll->setValue(session.gridScroll.value);
+    gridScroll->setRange(0, session.table.gridScroll.max);
+    gridScroll->setPageStep(session.table.gridScroll.largeChange);
+    gridScroll->setValue(session.table.gridScroll.value);
     Grid->showGrid();
 }
 

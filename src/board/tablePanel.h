@@ -1,4 +1,4 @@
-// The table as pupils see it: a grid with a header, large rows and a scroll bar of the system's own.
+// The table's widget: a grid with a header, large rows and a scroll bar of its own.
 #pragma once
 
 #include <QFrame>
@@ -6,20 +6,21 @@
 class QScrollBar;
 class TableGridWidget;
 
-/// Shows session.Grid and session.gridScroll; everything it does goes through the table's routines.
+/// Shows session.table.Grid and session.table.gridScroll, and changes them through the routines of
+/// tableView.h.
 class TablePanel : public QFrame {
     Q_OBJECT
 public:
     explicit TablePanel(QWidget* parent);
 
-    /// Gives grid and scroll bar their places on the panel and the table, when it is in view, its new rows;
-    /// the card at its top stays.
+    /// Places grid and scroll bar on the panel. A visible table is given new rows for its size; the card at
+    /// its top stays.
     void layOut(const QRect& gridPlace, const QRect& scrollPlace);
 
     /// Lays the table out for the window's size, from its first card on.
     void enter();
 
-    /// Takes over cells, faces and scroll bar from the session.
+    /// Shows the cells, faces and scroll position of the session.
     void showGrid();
 
 protected:
@@ -30,5 +31,5 @@ private:
 
     TableGridWidget* const Grid;
     QScrollBar* const gridScroll;
-    double wheelTurn = 0; // part of a row that the wheel has turned so far
+    double wheelTurn = 0; // rows, a fraction carried over to the next wheel event
 };

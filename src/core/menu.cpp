@@ -1,10 +1,12 @@
 #include "core/menu.h"
 
-#include "core/screen.h"
+#include "core/mainView.h"
 #include "core/session.h"
 
 #include <array>
 #include <vector>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -16,67 +18,62 @@ struct Heading {
 const std::array<Heading, lastHeading + 1>& headings()
 {
     static const std::array<Heading, lastHeading + 1> table{{
-        {QStringLiteral("File"),
-         {QStringLiteral("New"), QStringLiteral("Open..."), QStringLiteral("Print..."),
-          QStringLiteral("Exit")}},
-        {QStringLiteral("Card"),
-         {QStringLiteral("Add Card..."), QStringLiteral("Delete Card"), QStringLiteral("Design Cards..."),
-          QStringLiteral("Arrange Cards..."), QStringLiteral("Find...")}},
-        {QStringLiteral("Data"),
-         {QStringLiteral("Sort..."), QStringLiteral("Group..."), QStringLiteral("Make Graph..."),
-          QStringLiteral("Report..."), QStringLiteral("Statistics...")}},
-        {QStringLiteral("Help"), {QStringLiteral("Help")}},
+        {u"File"_s, {u"New"_s, u"Open..."_s, u"Print..."_s, u"Exit"_s}},
+        {u"Card"_s,
+         {u"Add Card..."_s, u"Delete Card"_s, u"Design Cards..."_s, u"Arrange Cards..."_s, u"Find..."_s}},
+        {u"Data"_s, {u"Sort..."_s, u"Group..."_s, u"Make Graph..."_s, u"Report..."_s, u"Statistics..."_s}},
+        {u"Help"_s, {u"Help"_s}},
     }};
     return table;
 }
 
 } // namespace
 
-QString headingText(int menu) { return headings().at(size_t(menu)).text; }
+QString headingText(int menu) { return headings().at(menu).text; }
 
 void fillMenuTables()
 {
     for (int menu = 0; menu <= lastHeading; ++menu) {
-        const auto& lines = headings()[size_t(menu)].lines;
-        session.menuLastItem[menu] = int(lines.size()) - 1;
+        const auto& lines = headings()[menu].lines;
+        session.menu.menuLastItem[menu] = int(lines.size()) - 1;
         for (int line = 0; line < int(lines.size()); ++line) {
-            session.menuItemCaption[menu][line] = lines[size_t(line)];
-            session.menuItemState[menu][line] = QStringLiteral("Show");
+            session.menu.menuItemCaption[menu][line] = lines[line];
+            session.menu.menuItemState[menu][line] = u"Show"_s;
         }
     }
 }
 
 void openMenu(int menu)
 {
-    session.openMenuIndex = menu;
-    for (int line = 0; line <= session.menuLastItem[menu]; ++line)
-        session.menuCaption[line].enabled = session.menuItemState[menu][line] == QStringLiteral("Show");
-    session.MenuHolder.visible = true;
-    screen.showControls();
+    session.menu.openMenuIndex = menu;
+    for (int line = 0; line <= session.menu.menuLastItem[menu]; ++line)
+        session.menu.menuCaption[line].enabled = session.menu.menuItemState[menu][line] == u"Show"_s;
+    session.menu.MenuHolder.visible = true;
+    mainView.showControls();
 }
 
 void closeMenu()
 {
-    session.openMenuIndex = -1;
-    session.MenuHolder.visible = false;
-    session.SelectBox.visible = false;
-    screen.showControls();
-    screen.redrawBoard();
+    session.menu.openMenuIndex = -1;
+    session.menu.MenuHolder.visible = false;
+    session.board.SelectBox.visible = false;
+    mainView.showControls();
+    mainView.redrawBoard();
 }
 
 void clickHeading(int menu)
 {
-    if (menu != session.openMenuIndex) {
+    if (menu != session.menu.openMenuIndex) {
         openMenu(menu);
-    } else if (session.MenuHolder.visible) {
-        session.MenuHolder.visible = false;
-        session.openMenuIndex = -1;
-        screen.showControls();
+    } else if (session.menu.MenuHolder.visible) {
+        session.menu.MenuHolder.visible = false;
+        session.menu.openMenuIndex = -1;
+        mainView.showControls();
     }
 }
 
 void hoverHeading(int menu)
 {
-    if (session.MenuHolder.visible)
+    if (session.menu.MenuHolder.visible)
         openMenu(menu);
 }

@@ -1,4 +1,4 @@
-// The menu as state: what each heading offers, which one is open. The windows of the menu follow it.
+// The menu's state: the lines of each heading, and which heading is open. The menu's widgets show it.
 #pragma once
 
 #include <QString>
@@ -9,17 +9,17 @@ inline constexpr int lastMenuLine = 5; // of the pull-down panel, counted from 0
 /// "File", "Card", "Data" or "Help".
 QString headingText(int menu);
 
-/// Gives every heading its lines, each in state "Show".
+/// Fills in the lines of every heading, each in state "Show".
 void fillMenuTables();
 
-/// Opens the heading's lines. A line is enabled when its state is exactly "Show" at this moment.
+/// Opens the heading's lines. A line is enabled if its state is exactly "Show".
 void openMenu(int menu);
 
-/// Closes the menu and hides the frame about the selected card.
+/// Closes the menu and hides the frame around the selected card.
 void closeMenu();
 
-/// A click on the heading opens it; on the open one, closes it again and leaves the frame.
+/// A click opens the heading, or closes it when it is open; the frame around the selected card then stays.
 void clickHeading(int menu);
 
-/// The mouse came over the heading: an open menu slides there.
+/// The mouse has entered the heading: an open menu moves there.
 void hoverHeading(int menu);

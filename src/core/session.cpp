@@ -5,19 +5,21 @@
 #include <algorithm>
 #include <numeric>
 
+using namespace Qt::StringLiterals;
+
 Session session;
 
 Session::Session()
 {
-    box[0].left = 15; // the corner from which every tool lays cards out
+    box[0].left = 15; // the corner where every tool starts laying out cards
     box[0].top = 40;
-    andOr[0] = andOr[1] = QStringLiteral(" ");
+    andOr[0] = andOr[1] = u" "_s;
 }
 
 QImage WorkPicture::shown() const
 {
     const QRect area(0, 0, width, height);
-    if (image.format() == QImage::Format_RGB32 && image.rect().contains(area)) // nothing to paint on
+    if (image.format() == QImage::Format_RGB32 && image.rect().contains(area)) // no background needed
         return image.copy(area);
     QImage surface(area.size(), QImage::Format_RGB32);
     surface.fill(Qt::white);
@@ -46,6 +48,7 @@ void resetCardTable()
     for (int i = 1; i <= session.maxCards; ++i) {
         session.cardValue[i] = {};
         session.cardId[i].clear();
+        session.recordName[i].clear();
         CardImage& card = session.box[i];
         card.picture = {};
         card.visible = false;
@@ -59,8 +62,8 @@ void resetCardTable()
 void resetFieldTable()
 {
     for (int f = 1; f <= session.maxFields; ++f) {
-        session.fieldName[f] = QStringLiteral("fieldname") + QString::number(f);
-        session.fieldType[f] = QStringLiteral("Abc");
+        session.fieldName[f] = u"fieldname"_s + QString::number(f);
+        session.fieldType[f] = u"Abc"_s;
         session.fieldUseList[f] = false;
     }
 }
@@ -69,4 +72,13 @@ void clearCardValues(int card)
 {
     for (int f = 1; f <= session.maxFields; ++f)
         session.cardValue[card][f].clear();
+}
+
+int cardWithId(const QString& cardId)
+{
+    for (int card = 1; card <= session.numCards; ++card) {
+        if (session.cardId[card] == cardId)
+            return card;
+    }
+    return 0;
 }

@@ -1,34 +1,30 @@
 #include "core/title.h"
 
-#include "core/screen.h"
+#include "core/mainView.h"
 #include "core/session.h"
+
+using namespace Qt::StringLiterals;
 
 QString releaseName()
 {
-    return QStringLiteral("Release %1.%2.%3")
-        .arg(TALLYMOOR_MAJOR)
-        .arg(TALLYMOOR_MINOR)
-        .arg(TALLYMOOR_REVISION);
+    return u"Release %1.%2.%3"_s.arg(TALLYMOOR_MAJOR).arg(TALLYMOOR_MINOR).arg(TALLYMOOR_REVISION);
 }
 
 QString titleEnding()
 {
-    return QStringLiteral(" Release %1.%2 (Build %3)")
-        .arg(TALLYMOOR_MAJOR)
-        .arg(TALLYMOOR_MINOR)
-        .arg(TALLYMOOR_REVISION);
+    return u" Release %1.%2 (Build %3)"_s.arg(TALLYMOOR_MAJOR).arg(TALLYMOOR_MINOR).arg(TALLYMOOR_REVISION);
 }
 
-QString titleWithoutDatabase() { return QStringLiteral("[No Database] - Tallymoor") + titleEnding(); }
+QString titleWithoutDatabase() { return u"[No Database] - Tallymoor"_s + titleEnding(); }
 
 void updateTitle()
 {
-    setTitle(QStringLiteral("[") + session.dbPath + QStringLiteral(" - ") +
-             QString::number(session.numCards) + QStringLiteral(" Card(s)] - Tallymoor") + titleEnding());
+    setTitle(u"["_s + session.dbPath + u" - "_s + QString::number(session.numCards) +
+             u" Card(s)] - Tallymoor"_s + titleEnding());
 }
 
 void setTitle(const QString& text)
 {
-    session.title = text;
-    screen.showTitle();
+    session.window.title = text;
+    mainView.showTitle();
 }

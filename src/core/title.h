@@ -1,19 +1,19 @@
-// The window's title, which tells the open database and the number of its cards.
+// The window's title, which names the open database and the number of its cards.
 #pragma once
 
 #include <QString>
 
-/// "Release 1.0.0", as the splash shows it.
+/// "Release 1.0.0", shown on the splash.
 QString releaseName();
 
-/// " Release 1.0 (Build 0)", as titles end.
+/// " Release 1.0 (Build 0)", the end of every title.
 QString titleEnding();
 
 /// The title while no database is open.
 QString titleWithoutDatabase();
 
-/// Rebuilds session.title for the open database and shows it.
+/// Rebuilds session.window.title for the open database and shows it.
 void updateTitle();
 
-/// Sets session.title to `text` and shows it.
+/// Sets session.window.title to `text` and shows it.
 void setTitle(const QString& text);

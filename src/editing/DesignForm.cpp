@@ -1,41 +1,31 @@
 #include "editing/DesignForm.h"
 
+#include "controls/dialogParts.h"
+#include "controls/fittedLabel.h"
 #include "editing/FieldForm.h"
 #include "editing/design.h"
 #include "editing/frmRemind.h"
 #include "platform/desktop.h"
-#include "platform/dialogParts.h"
-#include "platform/fittedLabel.h"
-#include "platform/forms.h"
-#include "platform/picture.h"
 
 #include <QBoxLayout>
 #include <QButtonGroup>
 #include <QCheckBox>
 #include <QGridLayout>
 #include <QGroupBox>
-#include <QIcon>
 #include <QRadioButton>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
 constexpr int rowsInColumn = 6;
-constexpr int partsOfRow = 6; // the last is a gap
+constexpr int partsOfRow = 6; // the last part is a gap
 constexpr int nameWidth = 130;
 constexpr int columnGap = 16;
 
-/// The element f of a group of controls is called by the group's name and f.
-template <class Control>
-Control* element(Control* control, const char* group, int f)
-{
-    control->setObjectName(QLatin1String(group) + QString::number(f));
-    return control;
-}
-
 QPushButton* stepButton(const char* name, const QString& icon, const QString& meaning)
 {
-    auto* button = named(new QPushButton(QIcon(picturePath(icon)), QString()), name);
-    button->setAccessibleName(meaning);
+    auto* button = named(iconButton(icon, meaning), name);
     button->setAutoRepeat(true);
     return button;
 }
@@ -45,15 +35,15 @@ QPushButton* stepButton(const char* name, const QString& icon, const QString& me
 DesignForm::DesignForm()
     : AnswerDialog(new AnswerButtons)
     , numFieldsBox(named(words(QString(), "subHeading"), "numFieldsBox"))
-    , spinUp(stepButton("spinUp", QStringLiteral("stepUp"), QStringLiteral("One field more")))
-    , spinDown(stepButton("spinDown", QStringLiteral("pullDown"), QStringLiteral("One field less")))
-    , ChkRD(named(new QCheckBox(QStringLiteral("&Read Only Database")), "ChkRD"))
-    , LblRO(named(words(QStringLiteral("(Requires you to restart the database)"), "explanation"), "LblRO"))
-    , mapBut(named(new QPushButton(QStringLiteral("&Import Map")), "mapBut"))
+    , spinUp(stepButton("spinUp", u"stepUp"_s, u"One field more"_s))
+    , spinDown(stepButton("spinDown", u"pullDown"_s, u"One field less"_s))
+    , ChkRD(named(new QCheckBox(u"&Read Only Database"_s), "ChkRD"))
+    , LblRO(named(words(u"(Requires you to restart the database)"_s, "explanation"), "LblRO"))
+    , mapBut(named(new QPushButton(u"&Import Map"_s), "mapBut"))
 {
-    setObjectName(QStringLiteral("DesignForm"));
-    setWindowTitle(QStringLiteral("Design Cards"));
-    mapBut->setEnabled(false); // until pictures can be laid under the cards
+    setObjectName(u"DesignForm"_s);
+    setWindowTitle(u"Design Cards"_s);
+    mapBut->setEnabled(false); // background pictures can't be imported yet
 
     auto* rows = fieldRows();
     auto* side = new QVBoxLayout;
@@ -65,11 +55,6 @@ DesignForm::DesignForm()
     side->addSpacing(12);
     side->addWidget(mapBut);
 
-    auto* lowest = new QHBoxLayout;
-    lowest->addWidget(answers);
-    lowest->addStretch();
-    lowest->addWidget(videoButton(QStringLiteral("Newdb")));
-
     auto* grid = new QGridLayout(this);
     grid->setContentsMargins(16, 12, 16, 12);
     grid->setColumnStretch(0, 1);
@@ -77,13 +62,13 @@ DesignForm::DesignForm()
     grid->setVerticalSpacing(12);
     grid->addLayout(side, 0, 1);
     grid->addWidget(rows, 0, 0);
-    grid->addLayout(lowest, 1, 0, 1, 2);
+    grid->addLayout(answerRow(answers, videoButton(u"Newdb"_s)), 1, 0, 1, 2);
     connectControls();
 }
 
 QWidget* DesignForm::fieldRows()
 {
-    auto* panel = new QGroupBox(QStringLiteral("Fields"));
+    auto* panel = new QGroupBox(u"Fields"_s);
     auto* grid = new QGridLayout(panel);
     grid->setHorizontalSpacing(6);
     grid->setVerticalSpacing(4);
@@ -95,15 +80,13 @@ QWidget* DesignForm::fieldRows()
 
 void DesignForm::addFieldRow(QGridLayout& grid, int f)
 {
-    number[f] = new QLabel(QStringLiteral("%1%2").arg(f < 10 ? QStringLiteral("&") : QString()).arg(f));
+    number[f] = new QLabel(u"%1%2"_s.arg(f < 10 ? u"&"_s : QString()).arg(f));
     fieldName[f] = element(new FittedLabel, "fieldName", f);
     DataBox[f] = element(new QLabel, "DataBox", f);
-    EditFieldBut[f] = element(new QPushButton(QStringLiteral("Edit")), "EditFieldBut", f);
+    EditFieldBut[f] = element(new QPushButton(u"Edit"_s), "EditFieldBut", f);
     number[f]->setBuddy(EditFieldBut[f]);
-    // It only tells that the field has a list: nothing can be picked from it here.
-    pullDownBut[f] =
-        element(new QPushButton(QIcon(picturePath(QStringLiteral("pullDown"))), QString()), "pullDownBut", f);
-    pullDownBut[f]->setAccessibleName(QStringLiteral("This field has a list"));
+    // It only shows that the field has a list; nothing can be picked here.
+    pullDownBut[f] = element(iconButton(u"pullDown"_s, u"This field has a list"_s), "pullDownBut", f);
     pullDownBut[f]->setFlat(true);
     pullDownBut[f]->setFocusPolicy(Qt::NoFocus);
     pullDownBut[f]->setAttribute(Qt::WA_TransparentForMouseEvents);
@@ -114,7 +97,7 @@ void DesignForm::addFieldRow(QGridLayout& grid, int f)
     grid.setColumnMinimumWidth(column + 1, nameWidth);
     for (QWidget* part : std::initializer_list<QWidget*>{number[f], fieldName[f], DataBox[f], pullDownBut[f],
                                                          EditFieldBut[f]}) {
-        keepPlaceWhenHidden(*part); // so that the dialog doesn't grow with the number of fields
+        keepPlaceWhenHidden(*part); // the dialog's size doesn't depend on the number of fields
         grid.addWidget(part, row, column++);
     }
     grid.setRowStretch(row, 1);
@@ -125,7 +108,7 @@ QWidget* DesignForm::fieldCount()
     auto* block = new QWidget;
     auto* row = new QHBoxLayout(block);
     row->setContentsMargins({});
-    auto* numFieldsLab = named(new QLabel(QStringLiteral("&Number of Fields")), "numFieldsLab");
+    auto* numFieldsLab = named(new QLabel(u"&Number of Fields"_s), "numFieldsLab");
     numFieldsLab->setBuddy(spinUp);
     row->addWidget(numFieldsLab);
     row->addWidget(numFieldsBox);
@@ -136,7 +119,7 @@ QWidget* DesignForm::fieldCount()
 
 QWidget* DesignForm::cardSizes()
 {
-    auto* Frame1 = named(new QGroupBox(QStringLiteral("Show Card")), "Frame1");
+    auto* Frame1 = named(new QGroupBox(u"Show Card"_s), "Frame1");
     auto* column = new QVBoxLayout(Frame1);
     int size = 0;
     for (const auto* caption : {"&Small", "&Medium", "&Text Only"}) {
@@ -168,12 +151,9 @@ void DesignForm::connectControls()
             if (chosen)
                 session.cardSize = qint16(size);
         });
-    onToggle(ChkRD, [](bool ticked) { session.designReadOnly = ticked; });
+    onToggle(ChkRD, [](bool ticked) { session.design.ChkRD = ticked; });
     onClickLater(answers->ok, [this] { confirm(); });
-    onClick(answers->cancel, [] {
-        session.dialogResult = QStringLiteral("Cancel");
-        unload<DesignForm>();
-    });
+    onClick(answers->cancel, [] { answerAndUnload<DesignForm>(u"Cancel"_s); });
 }
 
 void DesignForm::load()
@@ -181,15 +161,15 @@ void DesignForm::load()
     const bool free = readOnlyMayChange();
     ChkRD->setEnabled(free);
     LblRO->setEnabled(free);
-    session.designReadOnly = session.databaseStatus == QLatin1String("RO"); // a cancelled tick is forgotten
-    ChkRD->setChecked(session.designReadOnly);
+    session.design.ChkRD = session.databaseStatus == "RO"_L1; // a tick before a Cancel is dropped
+    ChkRD->setChecked(session.design.ChkRD);
 }
 
 void DesignForm::layoutDesignFields()
 {
     numFieldsBox->setText(QString::number(session.numFields));
     for (auto* button : {spinUp, spinDown})
-        button->setAccessibleDescription(QStringLiteral("Number of Fields: %1").arg(session.numFields));
+        button->setAccessibleDescription(u"Number of Fields: %1"_s.arg(session.numFields));
     for (int f = 1; f <= lastField; ++f)
         showField(f);
     cardSizeRadio[session.cardSize]->setChecked(true);
@@ -205,15 +185,15 @@ void DesignForm::showField(int f)
     pullDownBut[f]->setVisible(inUse && session.fieldUseList[f]);
     fieldName[f]->setText(session.fieldName[f]);
     DataBox[f]->setText(fieldTypeWord(f));
-    EditFieldBut[f]->setAccessibleName(QStringLiteral("Edit field %1, %2").arg(f).arg(session.fieldName[f]));
+    EditFieldBut[f]->setAccessibleName(u"Edit field %1, %2"_s.arg(f).arg(session.fieldName[f]));
 }
 
 void DesignForm::confirm()
 {
     acceptDesign();
-    session.dialogResult = QStringLiteral("OK");
+    session.dialogResult = u"OK"_s;
     if (reminderWanted()) {
-        desktop.beep();
+        desktop.sound.beep();
         showModal(form<frmRemind>());
     }
     unload<DesignForm>();

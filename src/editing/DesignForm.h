@@ -1,8 +1,8 @@
 // "Design Cards": the fields of a card, the size of the cards, and whether the database is read-only.
 #pragma once
 
+#include "controls/answerButtons.h"
 #include "core/session.h"
-#include "platform/answerButtons.h"
 
 class FittedLabel;
 class QCheckBox;
@@ -14,10 +14,10 @@ class DesignForm : public AnswerDialog {
     Q_OBJECT
 public:
     DesignForm();
-    /// Asks the settings whether the read-only tick may be changed.
+    /// Reads from the settings whether the read-only tick may be changed.
     void load();
 
-    /// The rows of the fields and the size of the cards as the session has them.
+    /// Shows the session's fields and card size.
     void layoutDesignFields();
 
     QLabel* const numFieldsBox;

@@ -1,13 +1,12 @@
 #include "editing/FieldForm.h"
 
-#include "platform/balloon.h"
-#include "platform/dialogParts.h"
-#include "platform/forms.h"
-#include "platform/selectOnFocus.h"
+#include "controls/balloon.h"
+#include "controls/dialogParts.h"
+#include "controls/dropDown.h"
+#include "controls/selectOnFocus.h"
 
 #include <QBoxLayout>
 #include <QCheckBox>
-#include <QComboBox>
 #include <QCoreApplication>
 #include <QGridLayout>
 #include <QInputMethodEvent>
@@ -16,7 +15,8 @@
 #include <QLineEdit>
 #include <QScrollArea>
 #include <QScrollBar>
-#include <QStyledItemDelegate>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -26,8 +26,8 @@ struct TypeLine {
 };
 
 const TypeLine typeLines[] = {
-    {QStringLiteral("Abc"), QStringLiteral("Abc - Letters and Numbers")},
-    {QStringLiteral("123"), QStringLiteral("123 - Numbers only")},
+    {u"Abc"_s, u"Abc - Letters and Numbers"_s},
+    {u"123"_s, u"123 - Numbers only"_s},
 };
 
 constexpr int halfWidth = 340;
@@ -45,20 +45,15 @@ QLabel* labelFor(QWidget* control, const char* name, const QString& text)
 FieldForm::FieldForm()
     : AnswerDialog(new AnswerButtons)
     , fieldNameBox(named(new QLineEdit, "fieldNameBox"))
-    , BtnClear(named(new QPushButton(QStringLiteral("&Clear")), "BtnClear"))
-    , fieldType(named(new QComboBox, "fieldType"))
-    , UseList(named(new QCheckBox(QStringLiteral("Offer a &list of answers")), "UseList"))
-    , listLabel(named(new QLabel(QStringLiteral("&Answers to pick from:")), "listLabel"))
+    , BtnClear(named(new QPushButton(u"&Clear"_s), "BtnClear"))
+    , fieldType(named(new DropDown, "fieldType"))
+    , UseList(named(new QCheckBox(u"Offer a &list of answers"_s), "UseList"))
+    , listLabel(named(new QLabel(u"&Answers to pick from:"_s), "listLabel"))
     , AnswerHolder(named(new QWidget, "AnswerHolder"))
     , Scroller1(named(new QScrollArea, "Scroller1"))
 {
-    setObjectName(QStringLiteral("FieldForm"));
-    setWindowTitle(QStringLiteral("Field Details"));
-    auto* lowest = new QHBoxLayout;
-    lowest->addWidget(answers);
-    lowest->addStretch();
-    lowest->addWidget(videoButton(QStringLiteral("Entering Data")));
-
+    setObjectName(u"FieldForm"_s);
+    setWindowTitle(u"Field Details"_s);
     auto* grid = new QGridLayout(this);
     grid->setContentsMargins(16, 12, 16, 12);
     grid->setHorizontalSpacing(24);
@@ -69,7 +64,7 @@ FieldForm::FieldForm()
     }
     grid->addLayout(nameAndType(), 0, 0);
     grid->addLayout(answerList(), 0, 1);
-    grid->addLayout(lowest, 1, 0, 1, 2);
+    grid->addLayout(answerRow(answers, videoButton()), 1, 0, 1, 2);
     connectControls();
 }
 
@@ -77,16 +72,15 @@ QLayout* FieldForm::nameAndType()
 {
     for (const TypeLine& line : typeLines)
         fieldType->addItem(line.text);
-    fieldType->setItemDelegate(new QStyledItemDelegate(fieldType)); // rows as high as a finger
 
     auto* nameRow = new QHBoxLayout;
     nameRow->addWidget(fieldNameBox);
     nameRow->addWidget(BtnClear);
     auto* column = new QVBoxLayout;
-    column->addWidget(labelFor(fieldNameBox, "fieldnameLabel", QStringLiteral("&Name of the field:")));
+    column->addWidget(labelFor(fieldNameBox, "fieldnameLabel", u"&Name of the field:"_s));
     column->addLayout(nameRow);
     column->addSpacing(8);
-    column->addWidget(labelFor(fieldType, "Label1", QStringLiteral("&Type of the answers:")));
+    column->addWidget(labelFor(fieldType, "Label1", u"&Type of the answers:"_s));
     column->addWidget(fieldType);
     column->addSpacing(8);
     column->addWidget(UseList);
@@ -98,10 +92,9 @@ QLayout* FieldForm::answerList()
 {
     auto* list = new QWidget;
     auto* rows = new QGridLayout(list);
-    for (int item = 1; item <= 12; ++item) {
-        possAnswer[item] = new QLineEdit;
-        possAnswer[item]->setObjectName(QStringLiteral("possAnswer%1").arg(item));
-        possAnswer[item]->setAccessibleName(QStringLiteral("Answer %1").arg(item));
+    for (int item = 1; item <= lastAnswer; ++item) {
+        possAnswer[item] = element(new QLineEdit, "possAnswer", item);
+        possAnswer[item]->setAccessibleName(u"Answer %1"_s.arg(item));
         possAnswer[item]->installEventFilter(this);
         rows->addWidget(new QLabel(QString::number(item)), item, 0);
         rows->addWidget(possAnswer[item], item, 1);
@@ -110,7 +103,7 @@ QLayout* FieldForm::answerList()
     Scroller1->setWidgetResizable(true);
     Scroller1->setMinimumHeight(listHeight);
     Scroller1->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    Scroller1->setFocusPolicy(Qt::NoFocus); // it follows the focus of its boxes
+    Scroller1->setFocusPolicy(Qt::NoFocus); // it scrolls to the focused box
     listLabel->setBuddy(possAnswer[1]);
 
     auto* holderLayout = new QVBoxLayout(AnswerHolder);
@@ -128,25 +121,19 @@ QLayout* FieldForm::answerList()
 
 void FieldForm::connectControls()
 {
-    giveHint(*BtnClear, QStringLiteral("Empty the name"));
+    giveHint(*BtnClear, u"Empty the name"_s);
     selectOnFocus(fieldNameBox);
     onClick(BtnClear, [this] {
         fieldNameBox->clear();
         fieldNameBox->setFocus();
     });
     onToggle(UseList, [this](bool ticked) { offerList(ticked); });
-    for (auto* button : {answers->ok, answers->cancel}) {
-        const QString answer = button == answers->ok ? QStringLiteral("OK") : QStringLiteral("Cancel");
-        onClick(button, [this, answer] {
-            session.dialogResult = answer;
-            hide();
-        });
-    }
+    answerByButtons();
 }
 
 void FieldForm::offerList(bool offered)
 {
-    for (int item = 1; item <= 12; ++item)
+    for (int item = 1; item <= lastAnswer; ++item)
         possAnswer[item]->clear();
     AnswerHolder->setVisible(offered);
     listLabel->setVisible(offered);
@@ -164,16 +151,16 @@ void FieldForm::fill(const FieldDefinition& definition)
             fieldType->setCurrentText(line.text);
     }
     UseList->setChecked(definition.useList);
-    for (int item = 1; item <= 12; ++item)
+    for (int item = 1; item <= lastAnswer; ++item)
         possAnswer[item]->setText(definition.answers[item]);
-    Scroller1->verticalScrollBar()->setValue(0); // not where the field before was left
+    Scroller1->verticalScrollBar()->setValue(0); // not the previous field's position
     fieldNameBox->setFocus();
 }
 
 FieldDefinition FieldForm::definition() const
 {
     FieldDefinition definition{fieldNameBox->text(), chosenType(), UseList->isChecked(), {}};
-    for (int item = 1; item <= 12; ++item)
+    for (int item = 1; item <= lastAnswer; ++item)
         definition.answers[item] = possAnswer[item]->text();
     return definition;
 }
@@ -192,7 +179,7 @@ bool FieldForm::eventFilter(QObject* watched, QEvent* event)
     if (!refuses(*event))
         return AnswerDialog::eventFilter(watched, event);
     if (event->type() == QEvent::InputMethod) {
-        QInputMethodEvent nothing; // takes away what was being composed
+        QInputMethodEvent nothing; // drops unfinished input-method text
         QCoreApplication::sendEvent(watched, &nothing);
     }
     return true;
@@ -216,10 +203,8 @@ bool FieldForm::refuses(QEvent& event) const
 
 bool editField(int f)
 {
-    session.dialogResult.clear();
     form<FieldForm>().fill(fieldDefinition(f));
-    showModal(form<FieldForm>());
-    if (session.dialogResult != QLatin1String("OK"))
+    if (!saysOk(form<FieldForm>()))
         return false;
     defineField(f, form<FieldForm>().definition());
     return true;

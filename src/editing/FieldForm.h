@@ -1,8 +1,8 @@
 // "Field Details": the name of one field, its type, and its list of ready answers.
 #pragma once
 
+#include "controls/answerButtons.h"
 #include "editing/fieldDefinition.h"
-#include "platform/answerButtons.h"
 
 class QCheckBox;
 class QComboBox;
@@ -27,7 +27,7 @@ public:
     QLabel* const listLabel;
     QWidget* const AnswerHolder;
     QScrollArea* const Scroller1;
-    Table<QLineEdit*, 12> possAnswer; // elements 1..12
+    Table<QLineEdit*, lastAnswer> possAnswer; // elements 1..lastAnswer
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -41,5 +41,5 @@ private:
     bool refuses(QEvent& event) const;
 };
 
-/// Shows field f of the session in the dialog and, after OK, defines it anew. True after OK.
+/// Shows field f of the session in the dialog and, after OK, changes its definition. True after OK.
 bool editField(int f);

@@ -1,21 +1,9 @@
 #include "editing/design.h"
 
 #include "core/session.h"
-#include "store/settings.h"
+#include "store/options.h"
 
-namespace {
-
-QString statusOption(const QString& section, const QString& absent)
-{
-    return readSetting(settingsFile(), section, QStringLiteral("Status"), absent);
-}
-
-void setStatusOption(const QString& section, const QString& value)
-{
-    writeSetting(settingsFile(), section, QStringLiteral("Status"), value);
-}
-
-} // namespace
+using namespace Qt::StringLiterals;
 
 void addField()
 {
@@ -31,27 +19,18 @@ void removeField()
 
 QString fieldTypeWord(int f)
 {
-    const QString text = QStringLiteral("Abc");
-    return session.fieldType[f] == text ? text : QStringLiteral("123");
+    const QString text = u"Abc"_s;
+    return session.fieldType[f] == text ? text : u"123"_s;
 }
 
-bool readOnlyMayChange()
-{
-    return statusOption(QStringLiteral("RO"), QStringLiteral("RW")) != QLatin1String("RO");
-}
+bool readOnlyMayChange() { return read(option::readOnly) != "RO"_L1; }
 
 void acceptDesign()
 {
-    session.databaseStatus = session.designReadOnly ? QStringLiteral("RO") : QStringLiteral("RW");
-    setStatusOption(QStringLiteral("Database"), session.databaseStatus);
+    session.databaseStatus = session.design.ChkRD ? u"RO"_s : u"RW"_s;
+    write(option::databaseStatus, session.databaseStatus);
 }
 
-bool reminderWanted()
-{
-    return statusOption(QStringLiteral("Remind"), QStringLiteral("0")) == QLatin1String("1");
-}
+bool reminderWanted() { return read(option::remindOfAdding) == "1"_L1; }
 
-void setReminderWanted(bool wanted)
-{
-    setStatusOption(QStringLiteral("Remind"), wanted ? QStringLiteral("1") : QStringLiteral("0"));
-}
+void setReminderWanted(bool wanted) { write(option::remindOfAdding, wanted ? u"1"_s : u"0"_s); }

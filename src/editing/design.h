@@ -1,26 +1,25 @@
-// The shape of a database: how many fields its cards have, what they are called, whether cards may be
-// deleted.
+// The design of a database: the number and names of its fields, and whether it is read-only.
 //
-// Every change counts at once in the session; cancelling the dialog takes none of them back.
+// Every change takes effect in the session at once; Cancel reverts none of them.
 #pragma once
 
 #include <QString>
 
-/// One field more, at most twelve. It shows what the field table holds for it.
+/// Adds a field, up to twelve, with the definition that the field table holds for it.
 void addField();
 
-/// One field less, at least one. Name, type and list of the field that goes stay in the field table.
+/// Removes the last field, down to one. Its name, type and list stay in the field table.
 void removeField();
 
-/// The type of field f as a word: "Abc", and "123" for anything else.
+/// The type of field f for display: "Abc", or "123" for any other type.
 QString fieldTypeWord(int f);
 
-/// True when the teacher lets a database be marked read-only.
+/// Whether the teacher allows databases to be marked read-only.
 bool readOnlyMayChange();
 
 /// OK in the dialog: the read-only tick becomes the database's status, in the session and in the settings.
 void acceptDesign();
 
-/// True when the settings want the pupil reminded of adding cards.
+/// Whether the settings ask for the reminder to add cards.
 bool reminderWanted();
 void setReminderWanted(bool wanted);

@@ -2,9 +2,9 @@
 
 #include "board/faces.h"
 #include "board/mode.h"
+#include "controls/forms.h"
 #include "core/session.h"
 #include "editing/DesignForm.h"
-#include "platform/forms.h"
 #include "store/descriptionFile.h"
 
 #include <utility>
@@ -13,12 +13,12 @@ void designCommand()
 {
     showCardMode();
     // Without this a cancelled "New" would write its empty field table over the database that is still open.
-    if (std::exchange(session.fieldTableForgotten, false))
+    // One that couldn't be read whole may be readable by now.
+    if (std::exchange(session.design.fieldTableForgotten, false) || !session.descriptionWhole)
         readDbInfo();
     const qint16 sizeBefore = session.cardSize;
-    session.dialogResult.clear();
     form<DesignForm>().layoutDesignFields();
-    showModal(form<DesignForm>());
+    ask(form<DesignForm>());
     if (session.cardSize != sizeBefore)
         resizeAllCards();
     writeDbInfo();

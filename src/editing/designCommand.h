@@ -1,6 +1,6 @@
-// "Design Cards...": the shape of the open database.
+// The command "Design Cards...".
 #pragma once
 
 /// Shows the design dialog in card mode, redraws the cards if their size was changed, and writes the
-/// description, whatever the answer was.
+/// description after either answer.
 void designCommand();

@@ -1,22 +1,22 @@
 #include "editing/editCard.h"
 
 #include "board/droppedPicture.h"
-#include "core/screen.h"
-#include "editing/cardEditor.h"
-#include "guidance/pucTextTip.h"
-#include "platform/balloon.h"
-#include "platform/dialogParts.h"
-#include "platform/fittedLabel.h"
-#include "platform/forms.h"
-#include "platform/picture.h"
+#include "controls/balloon.h"
+#include "controls/dialogParts.h"
+#include "controls/fittedLabel.h"
+#include "controls/pucTextTip.h"
+#include "core/mainView.h"
+#include "editing/cardEntry.h"
 #include "platform/pictureFile.h"
 #include "platform/values.h"
-#include "store/settings.h"
+#include "store/options.h"
 
 #include <QCloseEvent>
 #include <QGridLayout>
 #include <QLineEdit>
 #include <QTabBar>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -25,16 +25,9 @@ constexpr int partsOfRow = 3;  // label, box, button
 constexpr int nameWidth = 140; // of a field's label
 constexpr QSize monitorSize(193, 150);
 constexpr QPoint screenOfMonitor(16, 14);
-constexpr int answerHeight = 36; // of a line of the list
-constexpr int listGap = 1;       // between a box and its list
+constexpr int answerHeight = 36; // of one line
+constexpr int answersInView = 6;
 constexpr QSize tipSize(230, 110);
-
-/// The element f of a group of controls is called by the group's name and f.
-template <class Control>
-Control* element(Control* control, const char* group, int f)
-{
-    return named(control, qPrintable(QLatin1String(group) + QString::number(f)));
-}
 
 pucTextTip* advice(const char* name, const QString& text)
 {
@@ -48,44 +41,37 @@ pucTextTip* advice(const char* name, const QString& text)
 
 editCard::editCard()
     : AnswerDialog(new AnswerButtons)
-    , Tip1(advice("Tip1",
-                  QStringLiteral("Fill in what you know. A button with an arrow opens a list of answers.")))
-    , Monitor(named(pictureLabel(QStringLiteral("Monitor"), monitorSize), "Monitor"))
+    , Tip1(advice("Tip1", u"Fill in what you know. A button with an arrow opens a list of answers."_s))
+    , Monitor(named(pictureLabel(u"Monitor"_s, monitorSize), "Monitor"))
     , Picture1(named(new PictureBox, "Picture1"))
-    , Tip2(advice("Tip2",
-                  QStringLiteral("This is the picture of the card. You can drop a picture file on it.")))
+    , Tip2(advice("Tip2", u"Click the picture to draw it. You can also drop a picture file on it."_s))
     , FTab1(named(new QTabBar, "FTab1"))
     , Cover(new SoundCover)
-    , Answers(new AnswerHolder(this, answerHeight))
+    , Answers(new AnswerHolder(this, answerHeight, answersInView))
     , Timer2(named(new QTimer(this), "Timer2"))
 {
-    setObjectName(QStringLiteral("editCard"));
-    Picture1->setAccessibleName(QStringLiteral("Picture of the card"));
-    giveHint(*Picture1, QStringLiteral("Click here to draw/import a picture"));
-    FTab1->addTab(QStringLiteral("&Card"));
-    FTab1->addTab(QStringLiteral("Add/Edit &Sound"));
-    FTab1->setTabToolTip(0, QStringLiteral("Card"));
-    FTab1->setTabToolTip(1, QStringLiteral("Add/Edit Sound"));
-    FTab1->setTabData(0, QStringLiteral("card"));
-    FTab1->setTabData(1, QStringLiteral("addeditsound"));
+    setObjectName(u"editCard"_s);
+    Picture1->setAccessibleName(u"Picture of the card"_s);
+    giveHint(*Picture1, u"Click here to draw/import a picture"_s);
+    FTab1->addTab(u"&Card"_s);
+    FTab1->addTab(u"Add/Edit &Sound"_s);
+    FTab1->setTabToolTip(0, u"Card"_s);
+    FTab1->setTabToolTip(1, u"Add/Edit Sound"_s);
+    FTab1->setTabData(0, u"card"_s);
+    FTab1->setTabData(1, u"addeditsound"_s);
     Timer2->setSingleShot(true);
     Timer2->setInterval(1);
 
-    auto* lowest = new QHBoxLayout;
-    lowest->addWidget(answers);
-    lowest->addStretch();
-    auto* video = videoButton(QStringLiteral("Entering Data"));
-    lowest->addWidget(video);
-
+    auto* video = videoButton();
     auto* rows = new QVBoxLayout(this);
     rows->addLayout(pictureRow());
     rows->addWidget(FTab1);
-    auto* pages = new QGridLayout; // the cover lies over the fields
+    auto* pages = new QGridLayout; // the cover is on top of the fields
     pages->addWidget(fieldRows(), 0, 0);
     pages->addWidget(Cover, 0, 0);
     Cover->hide();
     rows->addLayout(pages, 1);
-    rows->addLayout(lowest);
+    rows->addLayout(answerRow(answers, video));
     setTabOrder(answers->cancel, video);
     connectControls();
 }
@@ -122,11 +108,8 @@ void editCard::addFieldRow(QGridLayout& grid, int f)
     fieldName[f]->setMinimumWidth(nameWidth);
     fieldName[f]->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     DataBox[f] = element(new QLineEdit, "DataBox", f);
-    pullDownBut[f] =
-        element(new QPushButton(QIcon(picturePath(QStringLiteral("pullDown"))), QString()), "pullDownBut", f);
-    QSizePolicy place = pullDownBut[f]->sizePolicy();
-    place.setRetainSizeWhenHidden(true); // the boxes stay in line
-    pullDownBut[f]->setSizePolicy(place);
+    pullDownBut[f] = element(iconButton(u"pullDown"_s), "pullDownBut", f);
+    keepPlaceWhenHidden(*pullDownBut[f]); // keeps the boxes aligned
 
     const int row = (f - 1) % rowsInColumn;
     int column = (f - 1) / rowsInColumn * partsOfRow;
@@ -144,46 +127,43 @@ void editCard::connectControls()
         DataBox[f]->installEventFilter(this);
         onClick(pullDownBut[f], [this, f] { toggleAnswers(f); });
     }
-    Answers->picked = [this](const QString& answer) { DataBox[answersOf]->setText(answer); };
-    Answers->installEventFilter(this);
-    onClick(Picture1, [] { ::screen.openPictureEditor(); });
+    onClickLater(Picture1, [this] {
+        mainView.openPictureEditor();
+        Picture1->update();
+    });
     connect(Picture1, &PictureBox::fileDropped, this, [this](const QString& file) {
-        guarded([&] { paintDroppedPicture(readPicture(file)); });
+        guarded([&] { paintDroppedPicture(readDroppedPicture(file)); });
         Picture1->update();
     });
     connect(FTab1, &QTabBar::currentChanged, this, [this](int tab) {
-        closeAnswers();
+        Answers->putAway();
         Cover->setVisible(tab == 1);
         fields->setVisible(tab != 1);
     });
     connect(Timer2, &QTimer::timeout, this, [this] { guarded([this] { testLock(); }); });
     onClick(answers->ok, [this] {
-        keepCard();
-        leave();
+        if (keepCard())
+            leave();
     });
-    onClick(answers->cancel, [this] {
-        session.dialogResult = QStringLiteral("Cancel");
-        leave();
-    });
+    onClick(answers->cancel, [] { answerAndUnload<editCard>(u"Cancel"_s); });
 }
 
 void editCard::load()
 {
-    const double soundStatus = leadingNumber(
-        readSetting(settingsFile(), QStringLiteral("Sound"), QStringLiteral("Status"), QStringLiteral("0")));
+    const double soundStatus = leadingNumber(read(option::sound));
     if (soundStatus == 0)
         FTab1->hide();
 }
 
 void editCard::showCard()
 {
-    setWindowTitle(QStringLiteral("Edit Card ") + QString::number(session.selectedCard));
+    setWindowTitle(u"Edit Card "_s + QString::number(session.selectedCard));
     for (QWidget* part : std::initializer_list<QWidget*>{Monitor, Tip2})
-        part->setVisible(session.Picture1.visible); // with the picture in it
+        part->setVisible(session.editor.Picture1.visible); // as the picture in it
     for (int f = 1; f <= session.numFields; ++f)
-        DataBox[f]->setText(session.DataBox[f]);
+        DataBox[f]->setText(session.editor.DataBox[f]);
     layoutFieldBoxes();
-    Cover->showOpening(!session.cardSoundFound.isEmpty());
+    Cover->showOpening(!session.editor.cardSoundFound.isEmpty());
     DataBox[1]->setFocus();
 }
 
@@ -192,13 +172,13 @@ void editCard::layoutFieldBoxes()
     for (int f = 1; f <= session.maxFields; ++f) {
         const bool used = f <= session.numFields;
         const bool hasList = used && session.fieldUseList[f];
-        fieldName[f]->setText(session.editorFieldName[f]);
+        fieldName[f]->setText(session.editor.fieldName[f]);
         fieldName[f]->setVisible(used);
         DataBox[f]->setVisible(used);
-        DataBox[f]->setAccessibleName(session.editorFieldName[f]);
+        DataBox[f]->setAccessibleName(session.editor.fieldName[f]);
         DataBox[f]->setReadOnly(hasList);
         pullDownBut[f]->setVisible(hasList);
-        pullDownBut[f]->setAccessibleName(session.editorFieldName[f] + QStringLiteral(", list of answers"));
+        pullDownBut[f]->setAccessibleName(session.editor.fieldName[f] + u", list of answers"_s);
     }
     Timer2->start();
 }
@@ -213,40 +193,24 @@ void editCard::filterValue(int f)
         DataBox[f]->setText(kept);
         DataBox[f]->setCursorPosition(int(allowedValue(f, fitting.left(caret)).size()));
     }
-    session.DataBox[f] = kept;
+    session.editor.DataBox[f] = kept;
 }
 
 void editCard::toggleAnswers(int f)
 {
-    if (Answers->isVisible() && answersOf == f) {
-        Answers->hide();
-        return;
-    }
-    answersOf = f;
     QStringList ready;
-    for (int j = 1; j <= AnswerHolder::lines; ++j)
+    for (int j = 1; j <= lastAnswer; ++j)
         ready.append(session.fieldListItem[f][j]);
-    Answers->setAnswers(ready);
     const QRect box(DataBox[f]->mapTo(this, QPoint()),
                     pullDownBut[f]->mapTo(this, pullDownBut[f]->rect().bottomRight()));
-    Answers->resize(box.width(), Answers->height());
-    int top = box.bottom() + listGap;
-    if (top + Answers->height() > height()) // above the box where there is no room below
-        top = std::max(0, box.top() - listGap - Answers->height());
-    Answers->openAt({box.left(), top});
-}
-
-void editCard::closeAnswers()
-{
-    answersOf = 0;
-    Answers->hide();
+    Answers->toggle(*pullDownBut[f], ready, box,
+                    [this, f](const QString& answer) { DataBox[f]->setText(answer); });
 }
 
 void editCard::testLock()
 {
-    txtDBLock =
-        readSetting(settingsFile(), QStringLiteral("LockDB"), QStringLiteral("Status"), QStringLiteral("0"));
-    if (txtDBLock != QLatin1String("1"))
+    txtDBLock = read(option::lockDatabase);
+    if (txtDBLock != "1"_L1)
         return;
     answers->ok->setEnabled(false);
     Picture1->setEnabled(false);
@@ -257,21 +221,17 @@ void editCard::leave() { unload<editCard>(); }
 
 void editCard::closeEvent(QCloseEvent* event)
 {
-    event->accept(); // the frame's close box answers nothing
+    event->accept(); // the window's close button gives no answer, whatever the picture editor gave
+    session.dialogResult.clear();
     leave();
 }
 
-void editCard::mousePressEvent(QMouseEvent*) { closeAnswers(); }
+void editCard::mousePressEvent(QMouseEvent*) { Answers->putAway(); }
 
 bool editCard::eventFilter(QObject* watched, QEvent* event)
 {
-    if (watched == Answers) {
-        if (event->type() == QEvent::Hide && answersOf > 0)
-            pullDownBut[answersOf]->setFocus();
-        return false;
-    }
     if (event->type() == QEvent::FocusIn)
-        closeAnswers();
+        Answers->putAway();
     const int f = int(std::find(DataBox.begin(), DataBox.end(), watched) - DataBox.begin());
     const bool asks =
         event->type() == QEvent::KeyPress && static_cast<QKeyEvent*>(event)->key() == Qt::Key_Down;
@@ -287,6 +247,6 @@ void openCardEditor(int card)
         fillEditor(card);
         auto& editor = form<editCard>();
         editor.showCard();
-        showModal(editor);
+        ask(editor);
     });
 }

@@ -1,11 +1,11 @@
 // The card editor: the values of a card, its picture and, on a second page, its sound.
 #pragma once
 
+#include "controls/answerButtons.h"
+#include "controls/answerHolder.h"
 #include "core/session.h"
 #include "editing/pictureBox.h"
 #include "editing/soundCover.h"
-#include "platform/answerButtons.h"
-#include "platform/answerHolder.h"
 
 class FittedLabel;
 class QLabel;
@@ -17,12 +17,12 @@ class editCard : public AnswerDialog {
     Q_OBJECT
 public:
     editCard();
-    /// Asks the settings whether the sound page is offered.
+    /// Reads from the settings whether the sound page is offered.
     void load();
 
     /// Shows the card that fillEditor() put into the session.
     void showCard();
-    /// Shows the rows of the fields that there are; a field with a list can't be typed into.
+    /// Shows a row for each field; a field with a list is read-only.
     void layoutFieldBoxes();
 
     pucTextTip* const Tip1;
@@ -35,8 +35,8 @@ public:
     Table<QPushButton*, lastField> pullDownBut;
     SoundCover* const Cover;
     AnswerHolder* const Answers;
-    QTimer* const Timer2; // 1 ms, the lock test
-    QString txtDBLock;    // what it read
+    QTimer* const Timer2; // 1 ms, starts the test for the lock
+    QString txtDBLock;    // the setting that it read
 
 protected:
     void closeEvent(QCloseEvent* event) override;
@@ -50,14 +50,12 @@ private:
     void connectControls();
     void filterValue(int f);
     void toggleAnswers(int f);
-    void closeAnswers();
     void testLock();
     void leave();
 
     QWidget* fields = nullptr;
-    int answersOf = 0; // the field that the list belongs to, 0 for none
 };
 
-/// Shows the card in the editor and waits until that is closed; `session.dialogResult` is "OK", "Cancel", or
-/// empty after the window's own closing. A card outside the tables, 0..100, ends in the error box.
+/// Shows the card in the editor and waits until that is closed; then `session.dialogResult` is "OK",
+/// "Cancel", or empty after the window's close button. A card outside 0..100 shows the error box.
 void openCardEditor(int card);

@@ -2,14 +2,16 @@
 
 #include "editing/design.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QString onOneLine(QString text)
 {
-    text.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
+    text.replace(u"\r\n"_s, u"\n"_s);
     for (const QChar end :
          {QChar('\r'), QChar('\n'), QChar(QChar::LineSeparator), QChar(QChar::ParagraphSeparator)})
-        text.replace(end, QLatin1Char(' '));
+        text.replace(end, u' ');
     return text;
 }
 
@@ -30,11 +32,11 @@ void defineField(int f, const FieldDefinition& definition)
     session.fieldUseList[f] = definition.useList;
     if (!definition.useList)
         return;
-    for (int item = 1; item <= 12; ++item)
+    for (int item = 1; item <= lastAnswer; ++item)
         session.fieldListItem[f][item] = onOneLine(definition.answers[item]);
 }
 
 bool answerTakesKey(const QString& type, QChar key)
 {
-    return type == QLatin1String("Abc") || (key >= QLatin1Char('/') && key <= QLatin1Char('9'));
+    return type == "Abc"_L1 || (key >= u'/' && key <= u'9');
 }

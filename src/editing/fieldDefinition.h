@@ -1,4 +1,4 @@
-// What one field of the cards is: its name, its type, and the ready answers that it offers.
+// The definition of a field: its name, its type and its list of ready answers.
 #pragma once
 
 #include "core/session.h"
@@ -10,13 +10,13 @@ struct FieldDefinition {
     FieldAnswers answers; // 1..12; empty without a list
 };
 
-/// Field f as the session has it, in the form in which the dialog shows it.
+/// The definition of field f in the session, as the dialog shows it.
 FieldDefinition fieldDefinition(int f);
 
-/// Gives field f another definition; nothing is validated. Without a list the session's old answers stay
-/// where they are. A pasted line end becomes a blank: the description has one item to a line.
+/// Changes the definition of field f without validating it. Without a list the old answers stay in the
+/// session. Line ends become blanks, since the description has one item to a line.
 void defineField(int f, const FieldDefinition& definition);
 
-/// Whether an answer to a field of that type may be typed with this key. For "123" these are the digits and
-/// the slash only: neither point nor minus sign, and no key that stands for a control character.
+/// Whether a field of that type accepts this key in an answer. "123" accepts digits and the slash only: no
+/// point, no minus sign, no control character.
 bool answerTakesKey(const QString& type, QChar key);

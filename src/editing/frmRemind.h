@@ -1,7 +1,7 @@
-// Reminds the pupil how to go on once the cards are designed.
+// Reminds the pupil of the next step after designing the cards.
 #pragma once
 
-#include "platform/answerButtons.h"
+#include "controls/answerButtons.h"
 
 class QCheckBox;
 

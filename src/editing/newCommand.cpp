@@ -2,36 +2,42 @@
 
 #include "board/labels.h"
 #include "board/mode.h"
-#include "core/screen.h"
+#include "controls/forms.h"
+#include "core/mainView.h"
 #include "core/session.h"
 #include "core/title.h"
+#include "database/NewForm.h"
 #include "editing/DesignForm.h"
-#include "editing/NewForm.h"
 #include "editing/designCommand.h"
-#include "platform/forms.h"
-#include "store/cardFiles.h"
+#include "store/paths.h"
+#include "store/questionFiles.h"
+
+using namespace Qt::StringLiterals;
+
+void newCommand()
+{
+    closeDatabase();
+    makeNewDatabase();
+}
 
 void closeDatabase()
 {
     deleteAnswers();
-    session.designReadOnly = false;
+    session.design.ChkRD = false;
     unload<DesignForm>();
     setTitle(titleWithoutDatabase());
     showCardMode();
     clearBoardLabels();
     resetFieldTable();
-    session.fieldTableForgotten = !session.dbPath.isEmpty();
+    session.design.fieldTableForgotten = !session.dbPath.isEmpty();
     resetCardTable();
-    screen.redrawBoard();
-    makeNewDatabase();
+    mainView.redrawBoard();
 }
 
 void makeNewDatabase()
 {
-    session.dialogResult.clear();
-    showModal(form<NewForm>());
-    if (session.dialogResult != QLatin1String("OK"))
+    if (!saysOk(form<NewForm>()))
         return;
     designCommand();
-    setTitle(lastPathPart(session.dbPath) + QStringLiteral(" - Tallymoor") + titleEnding());
+    setTitle(lastPathPart(session.dbPath) + u" - Tallymoor"_s + titleEnding());
 }

@@ -1,12 +1,14 @@
 #include "editing/soundCover.h"
 
+#include "controls/dialogParts.h"
 #include "core/session.h"
-#include "platform/dialogParts.h"
 #include "store/cardFiles.h"
 
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QRadioButton>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -32,22 +34,22 @@ void fill(QFrame* frame, std::initializer_list<QPushButton*> buttons)
 } // namespace
 
 SoundCover::SoundCover()
-    : FMSnd(named(new QGroupBox(QStringLiteral("Sound")), "FMSnd"))
-    , Option1(named(new QRadioButton(QStringLiteral("Add Pre-Recorded Sound")), "Option1"))
-    , Option2(named(new QRadioButton(QStringLiteral("Record Your Own Sound")), "Option2"))
+    : FMSnd(named(new QGroupBox(u"Sound"_s), "FMSnd"))
+    , Option1(named(new QRadioButton(u"Add Pre-Recorded Sound"_s), "Option1"))
+    , Option2(named(new QRadioButton(u"Record Your Own Sound"_s), "Option2"))
     , F1(named(new QFrame, "F1"))
-    , BtnImport(soundButton("BtnImport", QStringLiteral("Add Sound...")))
-    , BtnDelSnd(soundButton("BtnDelSnd", QStringLiteral("Remove Sound")))
-    , soundBut(soundButton("soundBut", QStringLiteral("Play Sound")))
+    , BtnImport(soundButton("BtnImport", u"Add Sound..."_s))
+    , BtnDelSnd(soundButton("BtnDelSnd", u"Remove Sound"_s))
+    , soundBut(soundButton("soundBut", u"Play Sound"_s))
     , F2(named(new QFrame, "F2"))
-    , BtnRec(soundButton("BtnRec", QStringLiteral("Record")))
-    , BtnPauseRec(soundButton("BtnPauseRec", QStringLiteral("Pause Recording")))
-    , BtnStopRec(soundButton("BtnStopRec", QStringLiteral("Stop Recording")))
-    , BtnPlay(soundButton("BtnPlay", QStringLiteral("Play")))
-    , BtnPause(soundButton("BtnPause", QStringLiteral("Pause ")))
-    , BtnStop(soundButton("BtnStop", QStringLiteral("Stop")))
+    , BtnRec(soundButton("BtnRec", u"Record"_s))
+    , BtnPauseRec(soundButton("BtnPauseRec", u"Pause Recording"_s))
+    , BtnStopRec(soundButton("BtnStopRec", u"Stop Recording"_s))
+    , BtnPlay(soundButton("BtnPlay", u"Play"_s))
+    , BtnPause(soundButton("BtnPause", u"Pause "_s))
+    , BtnStop(soundButton("BtnStop", u"Stop"_s))
 {
-    setObjectName(QStringLiteral("Cover"));
+    setObjectName(u"Cover"_s);
     auto* whole = new QVBoxLayout(this);
     whole->addWidget(FMSnd);
     auto* rows = new QVBoxLayout(FMSnd);

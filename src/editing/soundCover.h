@@ -12,7 +12,7 @@ class SoundCover : public QFrame {
 public:
     SoundCover();
 
-    /// The buttons as they are when the editor opens, for a card with or without a sound.
+    /// The initial state of the buttons, for a card with or without a sound.
     void showOpening(bool cardHasSound);
 
     QGroupBox* const FMSnd;

@@ -6,6 +6,8 @@
 #include <array>
 #include <optional>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr quint32 systemColourBit = 0x80000000;
@@ -43,8 +45,8 @@ std::optional<quint32> colourNumber(const QString& text)
 {
     const QString word = text.trimmed();
     bool ok = false;
-    if (word.startsWith(QLatin1String("&H"), Qt::CaseInsensitive)) {
-        const qsizetype end = word.endsWith(QLatin1Char('&')) ? word.size() - 1 : word.size();
+    if (word.startsWith("&H"_L1, Qt::CaseInsensitive)) {
+        const qsizetype end = word.endsWith(u'&') ? word.size() - 1 : word.size();
         const quint32 number = QStringView(word).sliced(2, std::max<qsizetype>(end, 2) - 2).toUInt(&ok, 16);
         return ok ? std::optional(number) : std::nullopt;
     }

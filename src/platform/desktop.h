@@ -1,8 +1,8 @@
-// The one seam to everything outside the program: sounds, questions, waiting, chance, files' places.
-// Set once at start-up by installDesktop(); tests set a recording one.
+// The one seam to everything outside the program. A new function joins a group; the struct itself does not
+// grow. installDesktop() sets the real functions at start-up; tests set recording ones.
 #pragma once
 
-#include <QDate>
+#include <QDateTime>
 #include <QImage>
 #include <QSize>
 #include <QString>
@@ -20,52 +20,86 @@ struct Volume {
 };
 
 struct Desktop {
-    std::function<void()> beep;
-    /// Shows a message box and waits until it is closed.
-    std::function<void(MessageIcon icon, const QString& title, const QString& text)> showMessage;
-    /// Asks with Yes and No; true for Yes.
-    std::function<bool(const QString& title, const QString& text)> ask;
-    /// The folder that was chosen, empty when none was.
-    std::function<QString(const QString& caption, const QString& startFolder)> chooseFolder;
-    /// The file that was chosen, empty when none was. `filter` as "Sounds (*.wav)".
-    std::function<QString(const QString& caption, const QString& startFolder, const QString& filter)>
-        chooseFile;
+    struct Boxes {
+        /// Shows a message box and waits until it is closed.
+        std::function<void(MessageIcon icon, const QString& title, const QString& text)> showMessage;
+        /// Asks with Yes and No; true for Yes.
+        std::function<bool(const QString& title, const QString& text)> ask;
+    };
 
-    /// Lets the window system handle what has happened meanwhile; one paint of all that was marked for it.
+    struct Files {
+        /// The chosen folder, empty when the dialog was cancelled.
+        std::function<QString(const QString& caption, const QString& startFolder)> chooseFolder;
+        /// The chosen file, empty when the dialog was cancelled. `filter` as in "Sounds (*.wav)".
+        std::function<QString(const QString& caption, const QString& startFolder, const QString& filter)>
+            chooseFile;
+        /// The same for pictures, with a preview of the one that is marked.
+        std::function<QString(const QString& caption, const QString& startFolder, const QString& filter)>
+            choosePicture;
+
+        /// The folder of the executable, where the settings file lies; no separator at its end.
+        std::function<QString()> programFolder;
+        std::function<QString()> documentsFolder;
+        std::function<QList<Volume>()> volumes;
+    };
+
+    struct Sound {
+        std::function<void()> beep;
+        /// Starts to play a wave file and returns at once; a file that can't be played is ignored.
+        std::function<void(const QString& path)> play;
+    };
+
+    struct Paper {
+        std::function<QStringList()> printerNames;
+        std::function<QString()> defaultPrinterName;
+    };
+
+    struct Clipboard {
+        std::function<void()> clear;
+        std::function<void(const QString& text)> copyText;
+        std::function<void(const QImage& picture)> copyPicture;
+    };
+
+    struct Programs {
+        /// Opens a document in the program that the desktop has for it. Raises 53 when that fails.
+        std::function<void(const QString& path)> openDocument;
+        /// Starts a program in a normal window without waiting. Raises 53 when that fails.
+        std::function<void(const QString& path, const QStringList& arguments)> start;
+        /// The same for a command line, in which a name with blanks stands between double quotes.
+        std::function<void(const QString& commandLine)> startCommand;
+    };
+
+    struct Screen {
+        /// In pixels.
+        std::function<QSize()> size;
+        /// 15 at 96 dpi.
+        std::function<double()> twipsPerPixelX;
+        std::function<double()> twipsPerPixelY;
+        /// Device pixels per logical pixel: 2 on a screen of double density.
+        std::function<double()> pixelRatio;
+        /// Shows the hourglass as the mouse pointer everywhere, or the usual pointers again.
+        std::function<void(bool busy)> setBusyPointer;
+    };
+
+    Boxes boxes;
+    Files files;
+    Sound sound;
+    Paper paper;
+    Clipboard clipboard;
+    Programs programs;
+    Screen screen;
+
+    /// Ends a round of a run: handles pending events, and sleeps for as long as the program is ahead of 4,000
+    /// rounds a second, so that cards fly equally fast on every machine.
     std::function<void()> yield;
-    /// The same, but sleeps until something happens: for a run that the pupil has paused.
+    /// The same, but sleeps until there is an event: for a run that the pupil has paused.
     std::function<void()> waitForEvents;
+    /// Handles events until endProgram(), and returns the program's exit code.
+    std::function<int()> runProgram;
+    std::function<void()> endProgram;
     /// A fresh random number, 0 up to but not including 1.
     std::function<double()> random;
-    std::function<QDate()> today;
-
-    /// Hands a document to the program that the desktop has for it. Raises 53 when it is not there.
-    std::function<void(const QString& path)> openDocument;
-    /// Starts a program in a normal window without waiting. Raises 53 when it can't be started.
-    std::function<void(const QString& path, const QStringList& arguments)> startProgram;
-    /// Plays a wave file without waiting for its end; a file that can't be played is passed over.
-    std::function<void(const QString& path)> playSound;
-
-    std::function<void()> clearClipboard;
-    std::function<void(const QString& text)> copyText;
-    std::function<void(const QImage& picture)> copyPicture;
-
-    std::function<QStringList()> printerNames;
-    std::function<QString()> defaultPrinterName;
-
-    /// Shows the hourglass as the mouse pointer everywhere, or the usual pointers again.
-    std::function<void(bool busy)> setBusyPointer;
-    /// The screen's size in pixels, and its twips to the pixel (15 at 96 dpi).
-    std::function<QSize()> screenSize;
-    std::function<double()> twipsPerPixelX;
-    std::function<double()> twipsPerPixelY;
-    /// The device's own pixels to one pixel of ours, 2 on a screen of double density.
-    std::function<double()> pixelRatio;
-
-    /// The folder of the executable, where the settings file lies; no separator at its end.
-    std::function<QString()> programFolder;
-    std::function<QString()> documentsFolder;
-    std::function<QList<Volume>()> volumes;
+    std::function<QDateTime()> now;
 };
 
 extern Desktop desktop;

@@ -10,7 +10,7 @@ constexpr int crewSize = 4;
 
 } // namespace
 
-// What the threads and their sender share. The threads may outlive the sender, so each holds on to it.
+// State shared by the threads and their sender. The threads may outlive the sender, so each keeps it alive.
 struct Errands::Crew {
     explicit Crew(QObject* sentFrom)
         : sender(sentFrom)
@@ -19,7 +19,7 @@ struct Errands::Crew {
 
     std::mutex lock;
     std::deque<Job> waiting;
-    int working = 0; // threads under way
+    int working = 0; // running threads
     Forgotten forgotten = false;
     QObject* sender; // not to be used once forgotten
 };

@@ -1,8 +1,7 @@
-// Work that may have to wait for a slow disk or share, done beside the session's thread so that windows go on
-// answering.
+// Work that may have to wait for a slow disk or share, done on other threads so that the windows stay
+// responsive.
 //
-// The work itself touches nothing of the session; what follows from its result is done back on the session's
-// thread.
+// The work itself never touches the session; its result is handled back on the session's thread.
 #pragma once
 
 #include "platform/errors.h"
@@ -16,11 +15,11 @@
 
 class Errands : public QObject {
 public:
-    /// Turns true when nobody waits for an errand any more: a long one looks at it and ends.
+    /// Turns true when an errand's result is no longer wanted; a long errand checks it and ends early.
     using Forgotten = std::atomic<bool>;
 
     Errands();
-    ~Errands() override; // waits for nobody: an errand stuck in a dead share ends when the share lets go
+    ~Errands() override; // does not wait: an errand stuck in a dead share ends when the share answers
 
     /// Runs `work(forgotten)` on another thread, up to four at a time, begun in the order they were sent.
     /// `then(result)` runs here, from the event loop, unless forget() came first. Work that raises an error
@@ -36,10 +35,9 @@ public:
         });
     }
 
-    /// Takes back the errands that have not begun yet.
+    /// Cancels the errands that have not begun yet.
     void forgetWaiting();
-    /// Nothing that was sent so far comes back. Errands sent from now on don't wait for what is still under
-    /// way.
+    /// Drops the results of everything sent so far. Errands sent from now on don't wait for running ones.
     void forget();
 
 private:

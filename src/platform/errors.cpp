@@ -5,6 +5,8 @@
 #include <new>
 #include <utility>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr std::pair<int, const char*> descriptions[] = {
@@ -46,7 +48,7 @@ QString RuntimeError::description() const
         if (number == code)
             return QString::fromLatin1(text);
     }
-    return QStringLiteral("Application-defined or object-defined error");
+    return u"Application-defined or object-defined error"_s;
 }
 
 QString currentErrorDescription()
@@ -56,18 +58,24 @@ QString currentErrorDescription()
     } catch (const RuntimeError& error) {
         return error.description();
     } catch (const std::bad_alloc&) {
-        return QStringLiteral("Out of memory");
+        return u"Out of memory"_s;
     } catch (const std::exception& error) {
         return QString::fromLocal8Bit(error.what());
     } catch (...) {
-        return QStringLiteral("Application-defined or object-defined error");
+        return u"Application-defined or object-defined error"_s;
     }
 }
 
 void showErrorBox(const QString& description)
 {
-    desktop.beep();
-    desktop.showMessage(MessageIcon::stop, QStringLiteral("Error"), description);
+    desktop.sound.beep();
+    desktop.boxes.showMessage(MessageIcon::stop, u"Error"_s, description);
+}
+
+void refuse(const QString& title, const QString& text)
+{
+    desktop.sound.beep();
+    desktop.boxes.showMessage(MessageIcon::exclamation, title, text);
 }
 
 bool withErrorBox(const std::function<void()>& routine)
@@ -90,7 +98,7 @@ void ignoringErrors(Steps steps, const std::function<void()>& failed)
         try {
             step();
             succeeded = true;
-        } catch (...) { // passing over is the whole purpose
+        } catch (...) { // ignoring errors is the purpose of this function
         }
         if (!succeeded && failed)
             failed();

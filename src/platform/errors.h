@@ -1,4 +1,4 @@
-// Run-time errors with a number and a description, and the ways in which a routine may answer them.
+// Run-time errors with a number and a description, and the ways to handle them.
 #pragma once
 
 #include <QString>
@@ -40,21 +40,24 @@ private:
     QString ownDescription;
 };
 
-/// The description of whatever exception is being handled; to be called from a catch block only.
+/// The description of the exception being handled. Call it from a catch block only.
 QString currentErrorDescription();
 
-/// Shows a failure as all routines do: a beep, then a box with a stop icon, titled "Error".
+/// Shows a failure the usual way: a beep, then a box with a stop icon, titled "Error".
 void showErrorBox(const QString& description);
 
-/// Runs `routine`. An error ends it with the state reached so far and is shown in the error box.
-/// True when no error came.
+/// Says in a friendly way why something can't be done now: a beep, then a box.
+void refuse(const QString& title, const QString& text);
+
+/// Runs `routine`. An error ends it, leaving the state reached so far, and is shown in the error box. True
+/// without an error.
 bool withErrorBox(const std::function<void()>& routine);
 
 using Steps = std::initializer_list<std::function<void()>>;
 
-/// Runs every step, passing over the ones that fail; `failed`, when given, is called after each failure.
+/// Runs every step, also after one has failed; `failed`, when given, is called after each failure.
 void ignoringErrors(Steps steps, const std::function<void()>& failed = {});
 
-/// The entry of everything that the window system calls: no exception gets back into it. What nobody answered
-/// shows the error box and ends the operation, and `session`-wide work goes on.
+/// Wraps every function that Qt calls, so that no exception propagates into Qt. An uncaught error shows the
+/// error box and ends the operation; the program continues.
 void guarded(const std::function<void()>& handler);

@@ -8,7 +8,7 @@ namespace {
 struct Substitute {
     const char* wanted;
     const char* family;
-    int stretch; // percent that make it as wide as the wanted one
+    int stretch; // percent, to make it as wide as the font asked for
 };
 
 constexpr Substitute substitutes[] = {
@@ -16,7 +16,7 @@ constexpr Substitute substitutes[] = {
     {"Arial", "Liberation Sans", 100},
 };
 
-/// Remembered, since the question goes through all families there are, and every card's face asks it.
+/// Cached: the lookup walks all installed families, and every card's face needs it.
 bool isInstalled(const QString& family)
 {
     static QHash<QString, bool> known;

@@ -1,8 +1,8 @@
-// Fonts that the design names, with what stands in for one that isn't installed.
+// The fonts named in the design, with substitutes for those that aren't installed.
 #pragma once
 
 #include <QFont>
 #include <QString>
 
-/// The font of that name; where it is missing, a font that is as wide as it ("Comic Sans MS", "Arial").
+/// The font of that name or, for "Comic Sans MS" and "Arial", a substitute of the same width.
 QFont namedFont(const QString& family, double points);

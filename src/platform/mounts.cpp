@@ -5,6 +5,8 @@
 #include <QFileInfo>
 #include <QSet>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 enum DriveKind { otherDrive = 0, removableDrive = 2, fixedDrive = 3, networkDrive = 4, opticalDrive = 5 };
@@ -16,7 +18,7 @@ const QSet<QByteArray> networkSystems = {
     "afs",  "ceph", "davfs", "fuse.sshfs", "fuse.smbnetfs", "fuse.davfs2", "fuse.curlftpfs"};
 const QSet<QByteArray> opticalSystems = {"iso9660", "udf"};
 
-/// The table writes blanks and the like as a backslash and three octal digits.
+/// The table writes white space as a backslash and three octal digits.
 QString unescaped(const QByteArray& word)
 {
     QByteArray plain;
@@ -37,13 +39,13 @@ QString driveName(const QString& mountPoint)
 
 bool isRemovableBlockDevice(const QString& device)
 {
-    if (!device.startsWith(QStringLiteral("/dev/")))
+    if (!device.startsWith(u"/dev/"_s))
         return false;
-    // A partition's folder lies inside that of its disk, which knows whether it can be taken out.
+    // A partition's folder lies inside that of its disk, which says whether it is removable.
     const QString folder =
-        QFileInfo(QStringLiteral("/sys/class/block/") + QFileInfo(device).fileName()).canonicalFilePath();
+        QFileInfo(u"/sys/class/block/"_s + QFileInfo(device).fileName()).canonicalFilePath();
     for (const QString& disk : {folder, QFileInfo(folder).path()}) {
-        QFile flag(disk + QStringLiteral("/removable"));
+        QFile flag(disk + u"/removable"_s);
         if (!folder.isEmpty() && flag.open(QIODevice::ReadOnly))
             return flag.read(1) == "1";
     }
@@ -55,16 +57,15 @@ bool isRemovableBlockDevice(const QString& device)
 QList<Volume> drives(const QByteArray& mountTable,
                      const std::function<bool(const QString& device)>& isRemovable)
 {
-    QList<Volume> found = {{QStringLiteral("(HOME)"), QDir::homePath(), fixedDrive},
-                           {QStringLiteral("(COMPUTER)"), QDir::rootPath(), fixedDrive}};
+    QList<Volume> found = {{u"(HOME)"_s, QDir::homePath(), fixedDrive},
+                           {u"(COMPUTER)"_s, QDir::rootPath(), fixedDrive}};
     for (const QByteArray& line : mountTable.split('\n')) {
         const QList<QByteArray> words = line.split(' ');
         if (words.size() < 3 || found.size() == mostDrives)
             continue;
         const QString device = unescaped(words[0]);
         const QString place = unescaped(words[1]);
-        const bool pluggedIn =
-            place.startsWith(QStringLiteral("/media/")) || place.startsWith(QStringLiteral("/run/media/"));
+        const bool pluggedIn = place.startsWith(u"/media/"_s) || place.startsWith(u"/run/media/"_s);
         int kind = otherDrive;
         if (networkSystems.contains(words[2]))
             kind = networkDrive;
@@ -80,6 +81,6 @@ QList<Volume> drives(const QByteArray& mountTable,
 
 QList<Volume> drivesOfComputer()
 {
-    QFile table(QStringLiteral("/proc/self/mounts"));
+    QFile table(u"/proc/self/mounts"_s);
     return drives(table.open(QIODevice::ReadOnly) ? table.readAll() : QByteArray(), isRemovableBlockDevice);
 }

@@ -8,8 +8,8 @@
 #include <functional>
 
 /// The home folder as "(HOME)" and the root as "(COMPUTER)", then the removable, network and optical media in
-/// the order of `mountTable` (the text of /proc/self/mounts), at most eight in all. No medium is touched: a
-/// server that hangs must not hang us. `isRemovable` tells it of a device ("/dev/sdb1").
+/// the order of `mountTable` (the text of /proc/self/mounts), at most eight in all. No medium is accessed,
+/// since a server that hangs must not block the program. `isRemovable` answers for a device ("/dev/sdb1").
 QList<Volume> drives(const QByteArray& mountTable,
                      const std::function<bool(const QString& device)>& isRemovable);
 

@@ -4,6 +4,8 @@
 #include <QPainter>
 #include <QSvgRenderer>
 
+using namespace Qt::StringLiterals;
+
 QPixmap picture(const QString& name, QSize size)
 {
     const double ratio = qGuiApp->devicePixelRatio();
@@ -18,7 +20,4 @@ QPixmap picture(const QString& name, QSize size)
     return QPixmap::fromImage(std::move(made));
 }
 
-QString picturePath(const QString& name)
-{
-    return QStringLiteral(":/pictures/") + name + QStringLiteral(".svg");
-}
+QString picturePath(const QString& name) { return u":/pictures/"_s + name + u".svg"_s; }

@@ -1,146 +1,67 @@
 #include "platform/pictureFile.h"
 
+#include "platform/bitmapFile.h"
 #include "platform/errors.h"
+#include "platform/metafile.h"
 #include "platform/wholeFile.h"
+#include "platform/wholeImage.h"
 
 #include <QBuffer>
 #include <QImageReader>
 #include <QPainter>
-#include <QtEndian>
 
 #include <algorithm>
 
 namespace {
 
-enum Compression : quint32 { uncompressed = 0, runLength8 = 1, runLength4 = 2, bitFields = 3 };
+constexpr QSize sizeOfDrawings(640, 480); // which have no pixels of their own
 
-constexpr int fileHeaderSize = 14;
-constexpr quint32 oldHeaderSize = 12; // its measures have 16 bits, the palette three bytes a colour
-constexpr quint32 plainHeaderSize = 40;
+/// Formats that are pictures and nothing else. An SVG file could read other files, or unpack without an end.
+constexpr const char* allowedFormats[] = {"gif", "ico",  "jpeg", "pbm", "pgm", "png",
+                                          "ppm", "tiff", "webp", "xbm", "xpm"};
 
-/// The fields of a bitmap's headers that tell how long the file has to be.
-struct BitmapMeasures {
-    qint64 pixelsFrom = 0;
-    qint64 width = 0;
-    qint64 height = 0; // negative when the top row comes first
-    int bits = 0;
-    quint32 compression = uncompressed;
-
-    qint64 rowBytes() const { return (width * bits + 31) / 32 * 4; }
-    bool hasRunLengths() const { return compression == runLength8 || compression == runLength4; }
-};
-
-template <class T>
-T valueAt(const QByteArray& bytes, qsizetype offset)
+bool isAllowed(const QByteArray& format)
 {
-    if (offset + qsizetype(sizeof(T)) > bytes.size())
-        throw RuntimeError(invalidPicture);
-    return qFromLittleEndian<T>(bytes.constData() + offset);
+    return std::any_of(std::begin(allowedFormats), std::end(allowedFormats),
+                       [&format](const char* allowed) { return format == allowed; });
 }
 
-BitmapMeasures measuresOf(const QByteArray& file)
+/// Lets a format that can do so leave out pixels that nobody needs.
+void shrinkTo(QImageReader& reader, QSize needed)
 {
-    BitmapMeasures found;
-    const auto headerSize = valueAt<quint32>(file, fileHeaderSize);
-    const bool old = headerSize == oldHeaderSize;
-    if (!old && headerSize < plainHeaderSize)
-        throw RuntimeError(invalidPicture);
-
-    quint32 colours = 0;
-    if (old) {
-        found.width = valueAt<quint16>(file, 18);
-        found.height = valueAt<quint16>(file, 20);
-        found.bits = valueAt<quint16>(file, 24);
-    } else {
-        found.width = valueAt<qint32>(file, 18);
-        found.height = valueAt<qint32>(file, 22);
-        found.bits = valueAt<quint16>(file, 28);
-        found.compression = valueAt<quint32>(file, 30);
-        colours = valueAt<quint32>(file, 46);
-    }
-    if (colours == 0 && found.bits <= 8)
-        colours = 1u << found.bits;
-    if (found.bits > 8)
-        colours = 0; // a palette would only be advice
-    const int masks = headerSize == plainHeaderSize && found.compression == bitFields ? 12 : 0;
-    const qint64 headersEnd = fileHeaderSize + qint64(headerSize) + masks + qint64(colours) * (old ? 3 : 4);
-    found.pixelsFrom = std::max<qint64>(valueAt<quint32>(file, 10), headersEnd);
-    return found;
-}
-
-/// Refuses a bitmap that is shorter than its headers ask for: Qt's reader leaves the missing rows as they
-/// come.
-void checkBitmap(const QByteArray& file)
-{
-    const BitmapMeasures bitmap = measuresOf(file);
-    const qint64 rows = std::abs(bitmap.height);
-    const qint64 longest = file.size();
-    if (bitmap.width <= 0 || rows == 0 || bitmap.width > longest * 255 || rows > longest * 255)
-        throw RuntimeError(invalidPicture);
-    const qint64 pixels = bitmap.hasRunLengths() ? 1 : bitmap.rowBytes() * rows;
-    if (bitmap.pixelsFrom + pixels > file.size())
-        throw RuntimeError(invalidPicture);
-}
-
-/// Gives the colours that a palette lacks, for a damaged file names them all the same, and takes the palette
-/// away: what works on pictures then finds colours in every pixel.
-void resolvePalette(QImage& picture)
-{
-    const bool clear = picture.hasAlphaChannel();
-    const int told = picture.colorCount();
-    if (told > 0) {
-        picture.setColorCount(1 << picture.depth());
-        for (int colour = told; colour < picture.colorCount(); ++colour)
-            picture.setColor(colour, qRgb(0, 0, 0));
-    }
-    picture.convertTo(clear ? QImage::Format_ARGB32 : QImage::Format_RGB32);
-}
-
-/// A picture of 32 bits whose maker left the fourth byte empty looks invisible; it was meant to be seen.
-/// Takes pictures of resolvePalette().
-void showWhenAllTransparent(QImage& picture)
-{
-    if (!picture.hasAlphaChannel())
+    if (needed.isEmpty() || !reader.supportsOption(QImageIOHandler::ScaledSize))
         return;
-    const auto pixels = [&picture](int y) { return reinterpret_cast<QRgb*>(picture.scanLine(y)); };
-    for (int y = 0; y < picture.height(); ++y) {
-        if (std::any_of(pixels(y), pixels(y) + picture.width(),
-                        [](QRgb pixel) { return qAlpha(pixel) != 0; }))
-            return;
-    }
-    for (int y = 0; y < picture.height(); ++y)
-        std::for_each(pixels(y), pixels(y) + picture.width(), [](QRgb& pixel) { pixel |= 0xFF000000; });
-    picture.reinterpretAsFormat(QImage::Format_RGB32);
+    if (reader.transformation() & QImageIOHandler::TransformationRotate90)
+        needed.transpose(); // it is turned after it has been read
+    const QSize covering = reader.size().scaled(needed, Qt::KeepAspectRatioByExpanding);
+    if (covering.width() < reader.size().width())
+        reader.setScaledSize(covering.expandedTo({1, 1}));
 }
 
-} // namespace
-
-QImage readPicture(const QString& path) { return decodePicture(readWholeFile(path)); }
-
-QImage decodePicture(const QByteArray& bytes)
+QImage decodeOther(const QByteArray& bytes, QSize needed)
 {
-    const bool bitmap = bytes.startsWith("BM");
-    if (bitmap)
-        checkBitmap(bytes);
-
     QBuffer buffer;
     buffer.setData(bytes);
     buffer.open(QIODevice::ReadOnly);
     QImageReader reader(&buffer);
-    // The reader fills a picture of the right kind that it is given. What a damaged file doesn't tell is then
-    // white, never what lay in memory before.
-    QImage picture;
-    const QSize size = reader.size();
-    if (size.isValid() && reader.imageFormat() != QImage::Format_Invalid &&
-        QImageIOHandler::allocateImage(size, reader.imageFormat(), &picture))
-        picture.fill(Qt::white);
-    if (!reader.read(&picture) || picture.isNull())
+    if (!isAllowed(reader.format()))
         throw RuntimeError(invalidPicture);
-    resolvePalette(picture);
-    if (bitmap)
-        showWhenAllTransparent(picture);
-    picture.setDevicePixelRatio(1);
-    return picture;
+    reader.setAutoTransform(true);
+    shrinkTo(reader, needed);
+    return readWholeImage(reader);
+}
+
+} // namespace
+
+QImage readPicture(const QString& path, QSize needed) { return decodePicture(readWholeFile(path), needed); }
+
+QImage decodePicture(const QByteArray& bytes, QSize needed)
+{
+    if (bytes.startsWith("BM"))
+        return decodeBitmap(bytes);
+    if (beginsAsMetafile(bytes))
+        return playMetafile(bytes, needed.isEmpty() ? sizeOfDrawings : needed);
+    return decodeOther(bytes, needed);
 }
 
 QByteArray bitmapBytes(const QImage& picture)

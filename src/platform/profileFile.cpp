@@ -15,19 +15,21 @@
 #include <optional>
 #include <sys/file.h>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int longestValue = 199;
 constexpr int lockPatienceMs = 3000;
 constexpr int lockPauseMs = 10;
-const QString lineEnd = QStringLiteral("\r\n");
+const QString lineEnd = u"\r\n"_s;
 
-/// The lines with their ends, so that what isn't changed is written as it was read.
+/// The lines including their line ends, so that unchanged ones are written back byte for byte.
 QStringList linesOf(const QString& text)
 {
     QStringList lines;
     for (qsizetype start = 0; start < text.size();) {
-        const qsizetype end = text.indexOf(QLatin1Char('\n'), start);
+        const qsizetype end = text.indexOf(u'\n', start);
         const qsizetype next = end < 0 ? text.size() : end + 1;
         lines.append(text.sliced(start, next - start));
         start = next;
@@ -40,23 +42,23 @@ bool sameName(const QString& one, const QString& other)
     return one.trimmed().compare(other.trimmed(), Qt::CaseInsensitive) == 0;
 }
 
-/// The name when the line heads a section.
+/// The section's name if the line is a section header.
 std::optional<QString> sectionName(const QString& line)
 {
     const QString content = line.trimmed();
-    const qsizetype end = content.indexOf(QLatin1Char(']'));
-    if (!content.startsWith(QLatin1Char('[')) || end < 0)
+    const qsizetype end = content.indexOf(u']');
+    if (!content.startsWith(u'[') || end < 0)
         return std::nullopt;
     return content.sliced(1, end - 1);
 }
 
 bool isKeyLine(const QString& line, const QString& key)
 {
-    const qsizetype equals = line.indexOf(QLatin1Char('='));
-    return equals >= 0 && !line.trimmed().startsWith(QLatin1Char(';')) && sameName(line.first(equals), key);
+    const qsizetype equals = line.indexOf(u'=');
+    return equals >= 0 && !line.trimmed().startsWith(u';') && sameName(line.first(equals), key);
 }
 
-/// The lines of the first section of that name, without its head: from `begin` up to, not including, `end`.
+/// The lines of the first section of that name without its header: `begin` up to but not including `end`.
 struct SectionLines {
     qsizetype begin;
     qsizetype end;
@@ -78,13 +80,13 @@ std::optional<SectionLines> findSection(const QStringList& lines, const QString&
 QString withoutQuotes(const QString& value)
 {
     const bool quoted = value.size() >= 2 && value.front() == value.back() &&
-                        (value.front() == QLatin1Char('"') || value.front() == QLatin1Char('\''));
+                        (value.front() == u'"' || value.front() == u'\'');
     return quoted ? value.sliced(1, value.size() - 2) : value;
 }
 
 QString withoutBlanksAtEnd(QString text)
 {
-    while (text.endsWith(QLatin1Char(' ')))
+    while (text.endsWith(u' '))
         text.chop(1);
     return text;
 }
@@ -96,34 +98,34 @@ std::optional<QString> valueIn(const QStringList& lines, const QString& section,
         return std::nullopt;
     for (qsizetype i = place->begin; i < place->end; ++i) {
         if (isKeyLine(lines[i], key))
-            return withoutQuotes(lines[i].sliced(lines[i].indexOf(QLatin1Char('=')) + 1).trimmed());
+            return withoutQuotes(lines[i].sliced(lines[i].indexOf(u'=') + 1).trimmed());
     }
     return std::nullopt;
 }
 
-/// So that a line can follow it.
+/// Ends the last line, so that another can follow it.
 void endLastLine(QStringList& lines)
 {
-    if (!lines.isEmpty() && !lines.last().endsWith(QLatin1Char('\n')))
+    if (!lines.isEmpty() && !lines.last().endsWith(u'\n'))
         lines.last() += lineEnd;
 }
 
 void setValue(QStringList& lines, const QString& section, const QString& key, const QString& value)
 {
-    const QString line = key + QLatin1Char('=') + value + lineEnd;
+    const QString line = key + u'=' + value + lineEnd;
     const auto place = findSection(lines, section);
     if (!place) {
         endLastLine(lines);
-        lines << QLatin1Char('[') + section + QLatin1Char(']') + lineEnd << line;
+        lines << u'[' + section + u']' + lineEnd << line;
         return;
     }
     for (qsizetype i = place->begin; i < place->end; ++i) {
         if (isKeyLine(lines[i], key)) {
-            lines[i] = lines[i].first(lines[i].indexOf(QLatin1Char('=')) + 1) + value + lineEnd;
+            lines[i] = lines[i].first(lines[i].indexOf(u'=') + 1) + value + lineEnd;
             return;
         }
     }
-    qsizetype after = place->end; // new keys come before the blank lines that part two sections
+    qsizetype after = place->end; // new keys come before the blank lines between two sections
     while (after > place->begin && lines[after - 1].trimmed().isEmpty())
         --after;
     if (after == lines.size())
@@ -131,20 +133,20 @@ void setValue(QStringList& lines, const QString& section, const QString& key, co
     lines.insert(after, line);
 }
 
-/// Keeps other programs from changing the file meanwhile. The system drops the lock with the process that
-/// held it, however that ends; the empty file beside the profile that it hangs on stays. Where that file
-/// can't be made the profile itself bears the lock, for there it is never replaced by another. A disk that
-/// knows no locks doesn't hinder writing.
+/// Keeps other programs from changing the file while it exists. The lock is held on an empty file beside the
+/// profile, which stays; the system releases the lock when the process ends, even by a crash. Where that file
+/// can't be made, the profile itself is locked: there it is overwritten, never replaced. On a disk without
+/// locks, writing goes ahead unlocked.
 class ProfileLock {
 public:
     explicit ProfileLock(const QString& path)
-        : file(QFileInfo(path).path() + QStringLiteral("/.") + QFileInfo(path).fileName() +
-               QStringLiteral(".lock"))
+        : file(QFileInfo(path).path() + u"/."_s + QFileInfo(path).fileName() + u".lock"_s)
     {
         const bool isNew = !file.exists();
         if (file.open(QIODevice::ReadWrite)) {
             if (isNew && QFile::exists(path))
-                file.setPermissions(QFile::permissions(path)); // whoever may change the profile may lock it
+                file.setPermissions(
+                    QFile::permissions(path)); // every user who may change the profile may lock it
         } else if (!file.open(QIODevice::ReadOnly)) {
             file.setFileName(path);
             if (!file.open(QIODevice::ReadWrite | QIODevice::ExistingOnly))
@@ -193,9 +195,9 @@ QString readProfile(const QString& section, const QString& key, const QString& a
     return value.value_or(withoutBlanksAtEnd(absent)).left(longestValue);
 }
 
-bool writeProfile(const QString& section, const QString& key, const QString& value, const QString& path)
+bool writeProfile(const QList<ProfileLine>& changes, const QString& path)
 {
-    static const QRegularExpression breaks(QStringLiteral("[\\r\\n\\x00]"));
+    static const QRegularExpression breaks(u"[\\r\\n\\x00]"_s);
     bool written = false;
     ignoringErrors({[&] {
         const ProfileLock lock(path);
@@ -203,7 +205,8 @@ bool writeProfile(const QString& section, const QString& key, const QString& val
             return;
         const QStringList before = linesOfFile(path);
         QStringList lines = before;
-        setValue(lines, section, key, QString(value).replace(breaks, QStringLiteral(" ")));
+        for (const auto& [section, key, value] : changes)
+            setValue(lines, section, key, QString(value).replace(breaks, u" "_s));
         if (lines != before) // else there is no need to wait for the disk
             replaceFile(path, encodeText(lines.join(QString())));
         sweepLeftovers(QFileInfo(path).path());

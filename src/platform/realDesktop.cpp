@@ -1,9 +1,13 @@
 #include "platform/realDesktop.h"
 
 #include "platform/desktop.h"
+#include "platform/errands.h"
 #include "platform/errors.h"
 #include "platform/mounts.h"
+#include "platform/owningWindow.h"
 #include "platform/picture.h"
+#include "platform/pictureChooser.h"
+#include "platform/roundPace.h"
 #include "platform/wavePlayer.h"
 
 #include <QApplication>
@@ -20,7 +24,10 @@
 #include <QUrl>
 
 #include <future>
+#include <thread>
 #include <utility>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -41,11 +48,11 @@ QMessageBox::Icon boxIcon(MessageIcon icon)
     return QMessageBox::NoIcon;
 }
 
-/// Shows a box with the plain text, whatever signs are in it, and returns the button that closed it.
+/// Shows a box with the text as it is, mark-up characters included, and returns the button that closed it.
 int runBox(QMessageBox::Icon icon, const QString& title, const QString& text,
            QMessageBox::StandardButtons buttons)
 {
-    QMessageBox box(icon, title, text, buttons, QApplication::activeWindow());
+    QMessageBox box(icon, title, text, buttons, owningWindow());
     box.setTextFormat(Qt::PlainText);
     return box.exec();
 }
@@ -68,7 +75,7 @@ QString chosenIn(QFileDialog& dialog)
 
 QString chooseFolder(const QString& caption, const QString& startFolder)
 {
-    QFileDialog dialog(QApplication::activeWindow(), caption, startFolder);
+    QFileDialog dialog(owningWindow(), caption, startFolder);
     dialog.setFileMode(QFileDialog::Directory);
     dialog.setOption(QFileDialog::ShowDirsOnly);
     return chosenIn(dialog);
@@ -76,24 +83,32 @@ QString chooseFolder(const QString& caption, const QString& startFolder)
 
 QString chooseFile(const QString& caption, const QString& startFolder, const QString& filter)
 {
-    QFileDialog dialog(QApplication::activeWindow(), caption, startFolder, filter);
+    QFileDialog dialog(owningWindow(), caption, startFolder, filter);
     dialog.setFileMode(QFileDialog::ExistingFile);
     return chosenIn(dialog);
 }
 
 // What askForPrintersEarly() asked for; each answer is given once.
-std::shared_future<QStringList> earlyNames;
+std::future<QStringList> earlyNames;
 std::future<QString> earlyDefault;
 
 QStringList printerNames()
 {
-    const auto asked = std::exchange(earlyNames, {});
-    return asked.valid() ? asked.get() : QPrinterInfo::availablePrinterNames();
+    return earlyNames.valid() ? earlyNames.get() : QPrinterInfo::availablePrinterNames();
 }
 
 QString defaultPrinterName()
 {
     return earlyDefault.valid() ? earlyDefault.get() : QPrinterInfo::defaultPrinterName();
+}
+
+void letARoundPass()
+{
+    static RoundPace pace;
+    QCoreApplication::processEvents();
+    const auto ahead = pace.sleepAfterRound(RoundPace::Clock::now());
+    if (ahead.count() > 0)
+        std::this_thread::sleep_for(ahead);
 }
 
 void openDocument(const QString& path)
@@ -108,11 +123,20 @@ void startProgram(const QString& path, const QStringList& arguments)
         throw RuntimeError(fileNotFound);
 }
 
+void startCommand(const QString& commandLine)
+{
+    QStringList words = QProcess::splitCommand(commandLine);
+    if (words.isEmpty())
+        throw RuntimeError(fileNotFound);
+    const QString program = words.takeFirst();
+    startProgram(program, words);
+}
+
 void setBusyPointer(bool busy)
 {
     static bool shown = false;
     if (busy && !shown)
-        QGuiApplication::setOverrideCursor(QCursor(picture(QStringLiteral("sand"), {32, 32}), 16, 16));
+        QGuiApplication::setOverrideCursor(QCursor(picture(u"sand"_s, {32, 32}), 16, 16));
     else if (!busy && shown)
         QGuiApplication::restoreOverrideCursor();
     shown = busy;
@@ -124,50 +148,65 @@ double twipsPerPixel(double dotsPerInch) { return dotsPerInch > 0 ? twipsPerInch
 
 void installDesktop()
 {
-    desktop.beep = [] { QApplication::beep(); };
-    desktop.showMessage = showMessage;
-    desktop.ask = ask;
-    desktop.chooseFolder = chooseFolder;
-    desktop.chooseFile = chooseFile;
+    desktop.boxes.showMessage = showMessage;
+    desktop.boxes.ask = ask;
 
-    desktop.yield = [] { QCoreApplication::processEvents(); };
-    desktop.waitForEvents = [] { QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents); };
-    desktop.random = [] { return QRandomGenerator::global()->generateDouble(); };
-    desktop.today = [] { return QDate::currentDate(); };
+    desktop.files.chooseFolder = chooseFolder;
+    desktop.files.chooseFile = chooseFile;
+    desktop.files.choosePicture = choosePictureFile;
+    desktop.files.programFolder = [] { return QCoreApplication::applicationDirPath(); };
+    desktop.files.documentsFolder = [] {
+        return QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    };
+    desktop.files.volumes = drivesOfComputer;
 
-    desktop.openDocument = openDocument;
-    desktop.startProgram = startProgram;
-    desktop.playSound = playWaveFile;
+    desktop.sound.beep = [] { QApplication::beep(); };
+    desktop.sound.play = playWaveFile;
 
-    desktop.clearClipboard = [] { QGuiApplication::clipboard()->clear(); };
-    desktop.copyText = [](const QString& text) { QGuiApplication::clipboard()->setText(text); };
-    desktop.copyPicture = [](const QImage& image) { QGuiApplication::clipboard()->setImage(image); };
+    desktop.paper.printerNames = printerNames;
+    desktop.paper.defaultPrinterName = defaultPrinterName;
 
-    desktop.printerNames = printerNames;
-    desktop.defaultPrinterName = defaultPrinterName;
+    desktop.clipboard.clear = [] { QGuiApplication::clipboard()->clear(); };
+    desktop.clipboard.copyText = [](const QString& text) { QGuiApplication::clipboard()->setText(text); };
+    desktop.clipboard.copyPicture = [](const QImage& image) {
+        QGuiApplication::clipboard()->setImage(image);
+    };
 
-    desktop.setBusyPointer = setBusyPointer;
-    desktop.pixelRatio = [] { return qGuiApp->devicePixelRatio(); };
-    desktop.screenSize = [] { return QGuiApplication::primaryScreen()->size(); };
-    desktop.twipsPerPixelX = [] {
+    desktop.programs.openDocument = openDocument;
+    desktop.programs.start = startProgram;
+    desktop.programs.startCommand = startCommand;
+
+    desktop.screen.setBusyPointer = setBusyPointer;
+    desktop.screen.pixelRatio = [] { return qGuiApp->devicePixelRatio(); };
+    desktop.screen.size = [] { return QGuiApplication::primaryScreen()->size(); };
+    desktop.screen.twipsPerPixelX = [] {
         return twipsPerPixel(QGuiApplication::primaryScreen()->logicalDotsPerInchX());
     };
-    desktop.twipsPerPixelY = [] {
+    desktop.screen.twipsPerPixelY = [] {
         return twipsPerPixel(QGuiApplication::primaryScreen()->logicalDotsPerInchY());
     };
 
-    desktop.programFolder = [] { return QCoreApplication::applicationDirPath(); };
-    desktop.documentsFolder = [] {
-        return QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
-    };
-    desktop.volumes = drivesOfComputer;
+    desktop.runProgram = [] { return QApplication::exec(); };
+    desktop.endProgram = [] { QApplication::exit(); };
+    desktop.yield = letARoundPass;
+    desktop.waitForEvents = [] { QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents); };
+    desktop.random = [] { return QRandomGenerator::global()->generateDouble(); };
+    desktop.now = [] { return QDateTime::currentDateTime(); };
 }
 
 void askForPrintersEarly()
 {
-    earlyNames = std::async(std::launch::async, [] { return QPrinterInfo::availablePrinterNames(); });
-    earlyDefault = std::async(std::launch::async, [names = earlyNames] {
-        names.wait(); // the printing system is asked by one thread at a time
-        return QPrinterInfo::defaultPrinterName();
-    });
+    auto names = std::make_shared<std::promise<QStringList>>();
+    auto standard = std::make_shared<std::promise<QString>>();
+    earlyNames = names->get_future();
+    earlyDefault = standard->get_future();
+    auto* errands = new Errands;
+    errands->setParent(qApp);
+    errands->send(
+        [names, standard](const Errands::Forgotten&) {
+            names->set_value(QPrinterInfo::availablePrinterNames());
+            standard->set_value(QPrinterInfo::defaultPrinterName());
+            return true;
+        },
+        [errands](bool) { errands->deleteLater(); });
 }

@@ -10,8 +10,8 @@ namespace {
 [[gnu::target("avx")]] void leaveUpperHalves() { _mm256_zeroupper(); }
 #endif
 
-/// Qt's painting leaves the upper halves of the processor's vector registers in use. Its scaling uses the
-/// lower halves alone and then takes three times as long.
+/// Clears the upper halves of the vector registers. Qt's painting leaves them in use, and its scaling, which
+/// uses the lower halves only, is then three times as slow.
 void prepareRegisters()
 {
 #ifdef __x86_64__

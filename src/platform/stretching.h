@@ -3,5 +3,5 @@
 
 #include <QImage>
 
-/// The picture stretched to that size, whatever its proportions, smoothly.
+/// The picture stretched to that size with smooth filtering; its proportions are not kept.
 QImage stretched(const QImage& picture, const QSize& size);

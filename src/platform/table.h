@@ -1,4 +1,4 @@
-// A fixed table of the system: elements 0..last, every other index an error of the running operation.
+// A table of fixed size: elements 0..last. Any other index raises error 9.
 #pragma once
 
 #include "platform/errors.h"
@@ -17,12 +17,12 @@ public:
     bool operator==(const Table&) const = default;
 
 private:
-    static std::size_t checked(int index)
+    static int checked(int index)
     {
         if (index < 0 || index > last)
             throw RuntimeError(outOfRange);
-        return static_cast<std::size_t>(index);
+        return index;
     }
 
-    std::array<T, static_cast<std::size_t>(last) + 1> elements{};
+    std::array<T, last + 1> elements{};
 };

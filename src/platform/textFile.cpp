@@ -8,11 +8,13 @@
 #include <optional>
 #include <utility>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr QChar byteOrderMark = QChar(0xFEFF);
 
-// Code page 1252 differs from Latin-1 in these bytes only; its five unused ones stay as they are.
+// Code page 1252 differs from Latin-1 in these bytes only; its five unused bytes are kept as they are.
 constexpr int firstSpecial = 0x80;
 constexpr std::array<char16_t, 32> specials = {
     0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
@@ -51,8 +53,8 @@ bool readsAsUtf8(const QByteArray& bytes)
     return !onlyAscii && bytes.isValidUtf8();
 }
 
-bool isBlank(QChar character) { return character == QLatin1Char(' ') || character == QLatin1Char('\t'); }
-bool isLineEnd(QChar character) { return character == QLatin1Char('\r') || character == QLatin1Char('\n'); }
+bool isBlank(QChar character) { return character == u' ' || character == u'\t'; }
+bool isLineEnd(QChar character) { return character == u'\r' || character == u'\n'; }
 
 } // namespace
 
@@ -60,7 +62,7 @@ QByteArray encodeText(const QString& text)
 {
     if (const auto bytes = inCodePage(text); bytes && !readsAsUtf8(*bytes))
         return *bytes;
-    // Reading drops one byte order mark: a text that begins with that character gets a second.
+    // Reading drops one byte order mark, so a text that begins with that character is written with a second.
     return text.startsWith(byteOrderMark) ? (byteOrderMark + text).toUtf8() : text.toUtf8();
 }
 
@@ -72,8 +74,7 @@ QString decodeText(const QByteArray& bytes)
     std::transform(bytes.begin(), bytes.end(), text.begin(), [](char signedByte) {
         const auto byte = static_cast<uchar>(signedByte);
         const int special = byte - firstSpecial;
-        return special >= 0 && special < int(specials.size()) ? QChar(specials[size_t(special)])
-                                                              : QChar(byte);
+        return special >= 0 && special < int(specials.size()) ? QChar(specials[special]) : QChar(byte);
     });
     return text;
 }
@@ -94,7 +95,7 @@ QString ItemReader::next()
         throw RuntimeError(pastEndOfFile);
     skipBlanks();
     const bool rest = std::exchange(restFollows, false);
-    return !rest && !atEnd() && text[at] == QLatin1Char('"') ? quotedItem() : bareItem();
+    return !rest && !atEnd() && text[at] == u'"' ? quotedItem() : bareItem();
 }
 
 qint16 ItemReader::nextInteger()
@@ -109,9 +110,9 @@ qint16 ItemReader::nextInteger()
 bool ItemReader::nextTruth()
 {
     const QString item = next();
-    if (item.compare(QLatin1String("True"), Qt::CaseInsensitive) == 0)
+    if (item.compare("True"_L1, Qt::CaseInsensitive) == 0)
         return true;
-    if (item.compare(QLatin1String("False"), Qt::CaseInsensitive) == 0)
+    if (item.compare("False"_L1, Qt::CaseInsensitive) == 0)
         return false;
     bool ok = false;
     const double number = item.toDouble(&ok);
@@ -126,13 +127,13 @@ void ItemReader::skipBlanks()
         ++at;
 }
 
-/// Passes over one comma or one line end. False when the reader stands before neither.
+/// Skips one comma or one line end. False when neither comes next.
 bool ItemReader::skipSeparator()
 {
-    if (atEnd() || (text[at] != QLatin1Char(',') && !isLineEnd(text[at])))
+    if (atEnd() || (text[at] != u',' && !isLineEnd(text[at])))
         return false;
     const QChar separator = text[at++];
-    if (separator == QLatin1Char('\r') && !atEnd() && text[at] == QLatin1Char('\n'))
+    if (separator == u'\r' && !atEnd() && text[at] == u'\n')
         ++at;
     return true;
 }
@@ -140,7 +141,7 @@ bool ItemReader::skipSeparator()
 QString ItemReader::quotedItem()
 {
     const qsizetype start = at + 1;
-    const qsizetype quote = text.indexOf(QLatin1Char('"'), start);
+    const qsizetype quote = text.indexOf(u'"', start);
     const qsizetype end = quote < 0 ? text.size() : quote;
     at = std::min(end + 1, text.size());
     skipBlanks();
@@ -151,18 +152,24 @@ QString ItemReader::quotedItem()
 QString ItemReader::bareItem()
 {
     const qsizetype start = at;
-    while (!atEnd() && text[at] != QLatin1Char(',') && !isLineEnd(text[at]))
+    while (!atEnd() && text[at] != u',' && !isLineEnd(text[at]))
         ++at;
     const QString item = text.sliced(start, at - start).trimmed();
     skipSeparator();
     return item;
 }
 
-void ItemWriter::quoted(const QString& item) { bare(QLatin1Char('"') + item + QLatin1Char('"')); }
-
-void ItemWriter::bare(const QString& item) { text += item + QLatin1String("\r\n"); }
-
-void ItemWriter::number(int item)
+QStringList itemsIn(const QByteArray& fileBytes)
 {
-    bare((item < 0 ? QString() : QStringLiteral(" ")) + QString::number(item) + QLatin1Char(' '));
+    ItemReader reader(fileBytes);
+    QStringList items;
+    while (!reader.atEnd())
+        items.append(reader.next());
+    return items;
 }
+
+void ItemWriter::quoted(const QString& item) { bare(u'"' + item + u'"'); }
+
+void ItemWriter::bare(const QString& item) { text += item + "\r\n"_L1; }
+
+void ItemWriter::number(int item) { bare((item < 0 ? QString() : u" "_s) + QString::number(item) + u' '); }

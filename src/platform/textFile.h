@@ -3,28 +3,31 @@
 
 #include <QByteArray>
 #include <QString>
+#include <QStringList>
 
-/// The text as bytes of code page 1252; as UTF-8 when it holds a character that the page lacks, or when its
-/// bytes would be taken for UTF-8 on reading. Every text comes back from decodeText() as it was.
+/// The text as bytes of code page 1252; as UTF-8 when the page lacks one of its characters, or when its 1252
+/// bytes would be valid UTF-8. decodeText() gives back every text unchanged.
 QByteArray encodeText(const QString& text);
 
-/// Bytes that are valid UTF-8 with a character beyond ASCII are read as that, all others as code page 1252.
+/// Bytes that are valid UTF-8 with a character beyond ASCII are read as UTF-8, all others as code page 1252.
 QString decodeText(const QByteArray& bytes);
 
-/// Reads items that end at a comma or a line end. Blanks before an item are skipped. One that begins with a
-/// double quote runs to the next double quote, whatever lies between; what follows that is a further item.
+/// Reads items that end at a comma or a line end. Blanks before an item are skipped. An item that begins with
+/// a double quote ends at the next double quote, commas and line ends included; text after that is a further
+/// item.
 class ItemReader {
 public:
     explicit ItemReader(const QString& itemText);
     explicit ItemReader(const QByteArray& fileBytes);
 
     bool atEnd() const { return at >= text.size(); }
-    /// The next item; a bare one loses the blanks at its end. Raises 62 when there is none left.
+    /// The next item; an unquoted one loses the blanks at its end. Raises 62 at the end of the file.
     QString next();
-    /// The next item as a number. Raises 62, 13 when it is none, 6 outside 16 bits.
+    /// The next item as a number. Raises 62 at the end of the file, 13 when it is no number, 6 outside 16
+    /// bits.
     qint16 nextInteger();
-    /// The next item as a truth value: True or False in any case, or a number. Raises 62, or 13 when it is
-    /// neither.
+    /// The next item as a Boolean: True or False in any case, or a number. Raises 62 at the end of the file,
+    /// 13 for anything else.
     bool nextTruth();
 
 private:
@@ -35,16 +38,19 @@ private:
 
     QString text;
     qsizetype at = 0;
-    bool restFollows = false; // what stands behind a closing quote is an item up to the next separator
+    bool restFollows = false; // text after a closing quote, up to the next separator, is an item
 };
 
-/// Collects items as the print statement writes them, one to a line.
+/// All items of a file.
+QStringList itemsIn(const QByteArray& fileBytes);
+
+/// Builds the text of a file, one item to a line.
 class ItemWriter {
 public:
-    /// Between double quotes, with nothing escaped: a text with a double quote won't come back whole.
+    /// Between double quotes, without escaping: a text with a double quote is not read back whole.
     void quoted(const QString& item);
     void bare(const QString& item);
-    /// With the blank that is the place of the sign, and one behind.
+    /// With one blank in place of the sign and one after it.
     void number(int item);
 
     QByteArray bytes() const { return encodeText(text); }

@@ -20,5 +20,5 @@ QString textInLines(const QString& text, const QFont& font, int width, int lines
         broken.append(text.mid(line.textStart(), line.textLength()).trimmed());
     }
     layout.endLayout();
-    return broken.join(QLatin1Char('\n'));
+    return broken.join(u'\n');
 }

@@ -2,13 +2,17 @@
 
 #include "platform/errors.h"
 
+#include <QLocale>
+
 #include <algorithm>
 #include <cmath>
 #include <limits>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-/// Walks along a text; every take...() moves on only over what it takes.
+/// A position in a text. Each take...() advances past what it accepts.
 class Scanner {
 public:
     explicit Scanner(QStringView scanned)
@@ -26,7 +30,7 @@ public:
         return found;
     }
 
-    /// Tells how many digits there were.
+    /// Returns the number of digits.
     qsizetype takeDigits()
     {
         const qsizetype start = at;
@@ -40,7 +44,7 @@ private:
     qsizetype at = 0;
 };
 
-/// Where the number ends that begins at the scanner's place; its start when there is none.
+/// The end of the number at the scanner's position; the position itself when there is none.
 qsizetype endOfNumber(Scanner scanner)
 {
     const qsizetype start = scanner.place();
@@ -75,7 +79,7 @@ double leadingNumber(const QString& text)
 
 qint16 toInteger(double number)
 {
-    const double rounded = std::nearbyint(number); // the default rounding mode takes halves to even
+    const double rounded = std::nearbyint(number); // the default rounding mode rounds halves to even
     if (!(rounded >= std::numeric_limits<qint16>::min() && rounded <= std::numeric_limits<qint16>::max()))
         throw RuntimeError(overflow);
     return static_cast<qint16>(rounded);
@@ -84,12 +88,35 @@ qint16 toInteger(double number)
 QString numberText(double number)
 {
     constexpr int significantDigits = 15;
-    return number == 0 ? QStringLiteral("0") : QString::number(number, 'G', significantDigits);
+    return number == 0 ? u"0"_s : QString::number(number, 'G', significantDigits);
 }
 
 QString positionText(double coordinate)
 {
     const double whole = std::floor(coordinate);
-    const QString digits = QString::number(std::abs(whole), 'f', 0).rightJustified(4, QLatin1Char('0'));
-    return whole < 0 ? QLatin1Char('-') + digits : digits;
+    const QString digits = QString::number(std::abs(whole), 'f', 0).rightJustified(4, u'0');
+    return whole < 0 ? u'-' + digits : digits;
 }
+
+float toSingle(double number)
+{
+    const auto single = static_cast<float>(number);
+    if (!std::isfinite(single))
+        throw RuntimeError(overflow);
+    return single;
+}
+
+QString singleText(float number)
+{
+    return number == 0 ? u"0"_s
+                       : QString::number(double(number), 'G', std::numeric_limits<float>::digits10 + 1);
+}
+
+double roundedTo(double number, int places)
+{
+    const double power = std::pow(10, places);
+    const double rounded = std::floor(numberText(number * power).toDouble() + 0.5) / power;
+    return std::isfinite(rounded) ? rounded : number; // so large that it has no places to round
+}
+
+QString shortDateText(const QDate& date) { return QLocale::system().toString(date, QLocale::ShortFormat); }

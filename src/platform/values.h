@@ -1,12 +1,13 @@
 // Numbers in text: how values, positions and file items are read and written.
 #pragma once
 
+#include <QDate>
 #include <QString>
 #include <QtGlobal>
 
 /// The number that a text begins with: blanks and tabs are skipped, then sign, digits, one point and an
-/// exponent are taken as far as they go ("12 cats" is 12). A text without one counts as 0, one too large for
-/// a double is the largest double.
+/// exponent are read as far as they go ("12 cats" is 12). 0 for a text without a number, the largest double
+/// for a number that is too large.
 double leadingNumber(const QString& text);
 
 /// The nearest 16-bit integer, halves to the even neighbour. Raises 6 outside -32768..32767.
@@ -16,5 +17,18 @@ qint16 toInteger(double number);
 /// "0.5", "1E+15".
 QString numberText(double number);
 
-/// One half of a position string: the integer part, downwards, with at least four digits: "0123", "-0012".
+/// One half of a position string: the number rounded down, with at least four digits: "0123", "-0012".
 QString positionText(double coordinate);
+
+/// The number in single precision. Raises 6 when it is too large for that.
+float toSingle(double number);
+
+/// A number of single precision with up to 7 significant digits: more would show what it isn't.
+QString singleText(float number);
+
+/// Rounded to that many places, halves upwards, also below zero: -2.345 to 2 places is -2.34. What is rounded
+/// is the number as it is written, so that 2.345 is 2.35 although its nearest double lies below.
+double roundedTo(double number, int places);
+
+/// The date as the desktop writes it in short.
+QString shortDateText(const QDate& date);

@@ -10,7 +10,7 @@ namespace {
 
 constexpr int headSize = 12;   // "RIFF", size, "WAVE"
 constexpr int chunkHead = 8;   // name, size
-constexpr int formatSize = 16; // of the plain format chunk
+constexpr int formatSize = 16; // of the basic format chunk
 constexpr int subformatAt = 24;
 constexpr quint16 pcm = 1;
 constexpr quint16 extensible = 0xFFFE;
@@ -36,8 +36,8 @@ void append(QByteArray& bytes, Number value)
     bytes.append(raw, sizeof raw);
 }
 
-/// Where the chunk after the one that ends at `end` begins. Chunks begin at even places, but some writers
-/// forget the filling byte.
+/// The start of the chunk that follows the one ending at `end`. Chunks start at even offsets, but some
+/// programs omit the padding byte.
 qsizetype nextChunk(const QByteArray& file, qsizetype end)
 {
     if (end % 2 == 0)
@@ -46,7 +46,7 @@ qsizetype nextChunk(const QByteArray& file, qsizetype end)
     return unpadded == "data" || unpadded == "fmt " ? end : end + 1;
 }
 
-/// The content of the first chunk of that name, cut at the end of the file; null when there is none.
+/// The content of the first chunk of that name, truncated at the end of the file; null when there is none.
 QByteArray chunk(const QByteArray& file, const char* name)
 {
     qsizetype at = headSize;

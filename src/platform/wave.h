@@ -1,4 +1,4 @@
-// Sounds as wave files hold them: our own reader and writer of RIFF/WAVE, for 8 and 16 bit PCM.
+// Reading and writing wave files (RIFF/WAVE) of 8 and 16 bit PCM.
 #pragma once
 
 #include <QByteArray>
@@ -13,9 +13,9 @@ struct Wave {
     int frameSize() const { return channels * bits / 8; }
 };
 
-/// Takes a wave file apart. A file that was cut short, or tells wrong sizes, gives the sound it still holds.
-/// Raises 57 for anything that isn't a wave file, and for compressed or other samples.
+/// Reads a wave file. A truncated file, or one with wrong sizes, gives the sound that it still contains.
+/// Raises 57 for anything that isn't a wave file and for sample formats other than these.
 Wave readWave(const QByteArray& file);
 
-/// The sound as a whole wave file.
+/// The sound as the bytes of a wave file.
 QByteArray waveBytes(const Wave& wave);

@@ -11,11 +11,11 @@
 
 namespace {
 
-constexpr qint64 buffered = 1'000'000;  // microseconds handed over ahead: a busy window doesn't stutter
+constexpr qint64 buffered = 1'000'000;  // microseconds of sound passed on in advance
 constexpr int afterTheLastSample = 100; // milliseconds
-constexpr int settling = 100;           // milliseconds: Qt 6.4 crashes when left sooner after a stop
+constexpr int settling = 100; // milliseconds: Qt 6.4 crashes when the program ends sooner after a stop
 std::unique_ptr<WavePlayer> filePlayer;
-QElapsedTimer sinceStop; // invalid while no sound was used
+QElapsedTimer sinceStop; // invalid until a sound has been stopped
 
 QAudioFormat formatOf(const Wave& wave)
 {
@@ -58,7 +58,7 @@ bool WavePlayer::play(const Wave& wave)
     return false;
 }
 
-/// Idle means that the last sample was handed over only when none is left; else the reading was late.
+/// "Idle" means the end only when no sample is left; otherwise a read came too late.
 void WavePlayer::followState()
 {
     if (sink->state() == QAudio::IdleState && samples.atEnd())
@@ -86,7 +86,7 @@ void WavePlayer::resume()
         ending.start(endingLeft);
 }
 
-/// An active sink must be stopped before it goes: Qt 6.4 crashes otherwise.
+/// An active sink must be stopped before it is destroyed: Qt 6.4 crashes otherwise.
 void WavePlayer::stop()
 {
     ending.stop();

@@ -1,7 +1,7 @@
 // Plays sounds without waiting for their end.
 //
-// Nothing of the sound system is touched before the first sound is wanted: a sound server that hangs must not
-// keep the program from starting.
+// The sound system isn't used before the first sound: a sound server that hangs must not keep the program
+// from starting.
 #pragma once
 
 #include "platform/wave.h"
@@ -21,7 +21,7 @@ public:
     WavePlayer();
     ~WavePlayer() override;
 
-    /// Starts the sound; one that still plays is broken off. False when there is nothing to play it on.
+    /// Starts the sound, stopping one that still plays. False when there is no output device.
     bool play(const Wave& wave);
     void pause();
     void resume();
@@ -29,24 +29,24 @@ public:
     bool isPlaying() const { return sink != nullptr; }
 
 Q_SIGNALS:
-    /// The sound came to its end, or the sound server went away. Not sent by stop().
+    /// The sound has ended, or the sound server has disappeared. Not emitted by stop().
     void finished();
 
 private:
     void followState();
 
     QBuffer samples;
-    QTimer ending; // from the last sample handed over to the last one heard
+    QTimer ending; // from the last sample passed on to the last one heard
     int endingLeft = -1;
     std::unique_ptr<QAudioSink> sink;
 };
 
-/// Plays the wave file; one that still plays is broken off. A file that can't be played is passed over.
+/// Plays the wave file, stopping one that still plays. A file that can't be played is ignored.
 void playWaveFile(const QString& path);
 
-/// To be called last of all before the program ends: stops what plays and waits until the sound system has
-/// let go, which takes a tenth of a second. Returns at once when no sound was used.
+/// Call this last before the program ends. Stops the sound and waits a tenth of a second, until the sound
+/// system has released its resources. Returns at once when no sound was played.
 void leaveSound();
 
-/// Tells that a sound device was just stopped, so that leaveSound() waits long enough.
+/// Call this when a sound device has just been stopped, so that leaveSound() waits long enough.
 void noteSoundStopped();

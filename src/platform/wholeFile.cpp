@@ -1,6 +1,7 @@
 #include "platform/wholeFile.h"
 
 #include "platform/errors.h"
+#include "platform/fileRights.h"
 
 #include <QCryptographicHash>
 #include <QDir>
@@ -19,13 +20,16 @@
 #include <unistd.h>
 #include <utility>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-// A new file is called .tallymoor~MACHINE~PROCESS~COUNT until it takes its place: hidden from every listing.
-const QString leftoverPrefix = QStringLiteral(".tallymoor~");
+// A new file is called .tallymoor~MACHINE~PROCESS~COUNT until it takes its place: hidden from directory
+// listings.
+const QString leftoverPrefix = u".tallymoor~"_s;
 constexpr int foreignLeftoverSeconds = 600;
 
-// On a share another station's reading stands in the way of a rename for a moment.
+// On a share, a reader on another machine can block a rename for a moment.
 constexpr int renameTries = 10;
 constexpr int missingTries = 5;
 constexpr int pauseMs = 20;
@@ -71,7 +75,7 @@ QByteArray systemName(const QString& path) { return QFile::encodeName(path); }
 
 QString folderOf(const QString& path) { return QFileInfo(path).path(); }
 
-/// An open file of the system. It is closed when it goes, after an error too.
+/// An open file descriptor, closed by the destructor.
 class OpenFile {
 public:
     OpenFile(const QString& path, int flags, mode_t mode = 0)
@@ -88,7 +92,7 @@ public:
     OpenFile(const OpenFile&) = delete;
     OpenFile& operator=(const OpenFile&) = delete;
 
-    /// 0 when it was opened, otherwise the system's error.
+    /// 0 when it was opened, otherwise errno.
     int error() const { return failure; }
 
     struct stat status() const
@@ -108,7 +112,7 @@ public:
                 continue;
             check(count);
             if (count == 0)
-                break; // it was cut while it was read
+                break; // the file was truncated meanwhile
             have += count;
         }
         bytes.truncate(have);
@@ -128,18 +132,18 @@ public:
         }
     }
 
-    /// Reserves room for so many bytes without changing the file's length.
+    /// Reserves room for so many bytes without changing the file's length, where the disk can.
     void reserve(qint64 length) const
     {
-        if (length > 0)
-            check(::fallocate(descriptor, FALLOC_FL_KEEP_SIZE, 0, length));
+        if (length > 0 && ::fallocate(descriptor, FALLOC_FL_KEEP_SIZE, 0, length) != 0 && errno != EOPNOTSUPP)
+            raiseFor(errno);
     }
 
     void cutTo(qint64 length) const { check(::ftruncate(descriptor, length)); }
-    void takeMode(mode_t mode) const { static_cast<void>(::fchmod(descriptor, mode & 07777)); }
+    bool takeRights(const FileRights& rights) const { return giveRights(descriptor, rights); }
     void flushToDisk() const { check(::fdatasync(descriptor)); }
 
-    /// Closes and tells what the system has still to tell: network disks report a lack of room only here.
+    /// Closes the file and returns the error, if any: network disks report a lack of space only here.
     void close()
     {
         const int closing = std::exchange(descriptor, -1);
@@ -157,16 +161,16 @@ private:
     int failure = 0;
 };
 
-/// Names this running system: the same for all processes that can see each other's numbers, and for no
-/// others, even where the machines of a classroom are copies of one another and bear the same name.
+/// Identifies this running system: the same for all processes that can see each other's ids, different for
+/// all others, even where the machines of a classroom are copies with the same name.
 QString machineName()
 {
     static const QString name = [] {
-        QFile boot(QStringLiteral("/proc/sys/kernel/random/boot_id"));
+        QFile boot(u"/proc/sys/kernel/random/boot_id"_s);
         QCryptographicHash hash(QCryptographicHash::Sha1);
         if (boot.open(QIODevice::ReadOnly))
             hash.addData(boot.readAll());
-        hash.addData(QFile::symLinkTarget(QStringLiteral("/proc/self/ns/pid")).toUtf8());
+        hash.addData(QFile::symLinkTarget(u"/proc/self/ns/pid"_s).toUtf8());
         hash.addData(QSysInfo::machineHostName().toUtf8());
         return QString::fromLatin1(hash.result().toHex().first(16));
     }();
@@ -176,16 +180,16 @@ QString machineName()
 QString nameForNewFile()
 {
     static int count = 0;
-    return leftoverPrefix + machineName() + QLatin1Char('~') + QString::number(::getpid()) +
-           QLatin1Char('~') + QString::number(++count);
+    return leftoverPrefix + machineName() + u'~' + QString::number(::getpid()) + u'~' +
+           QString::number(++count);
 }
 
-/// A new file that has not taken its place yet; it vanishes unless it does.
+/// A new file that has not replaced its target yet. The destructor removes it unless it has.
 class NewFile {
 public:
-    explicit NewFile(const QString& folder)
-        : path(folder + QLatin1Char('/') + nameForNewFile())
-        , file(path, O_WRONLY | O_CREAT | O_EXCL, 0666)
+    explicit NewFile(const QString& folder, mode_t mode = 0666)
+        : path(folder + u'/' + nameForNewFile())
+        , file(path, O_WRONLY | O_CREAT | O_EXCL, mode & 0666)
     {
     }
     ~NewFile()
@@ -198,7 +202,7 @@ public:
 
     int error() const { return file.error(); }
     struct stat status() const { return file.status(); }
-    void takeMode(mode_t mode) const { file.takeMode(mode); }
+    bool takeRights(const FileRights& rights) const { return file.takeRights(rights); }
 
     void fill(const QByteArray& bytes)
     {
@@ -207,7 +211,7 @@ public:
         file.close();
     }
 
-    /// 0 when it took its place, otherwise the system's refusal.
+    /// 0 when it has replaced the target, otherwise errno.
     int takePlaceOf(const QString& target)
     {
         for (int attempt = 1;; ++attempt) {
@@ -227,7 +231,7 @@ private:
     bool placed = false;
 };
 
-/// For a file that may be written in a folder that may not.
+/// For a writable file in a folder that isn't writable.
 void overwriteInPlace(const QString& path, const QByteArray& bytes)
 {
     const OpenFile file(path, O_RDWR);
@@ -246,38 +250,41 @@ void overwriteInPlace(const QString& path, const QByteArray& bytes)
     }
 }
 
-/// Writes the file beside its target, with the old one's rights, and lets it take its place. Tells the
-/// system's refusal of either, 0 when there was none; raises when the bytes can't be written.
-int putNewFile(const QString& target, const QByteArray& bytes, const struct stat* old)
+/// Writes the file beside its target and lets it take its place, with these rights if it can; one that
+/// replaces another has to have them. Tells the system's refusal of any of this, 0 when there was none;
+/// raises when the bytes can't be written.
+int putNewFile(const QString& target, const QByteArray& bytes, const std::optional<FileRights>& rights,
+               bool replaces)
 {
-    NewFile made(folderOf(target));
+    NewFile made(folderOf(target), rights ? rights->mode : 0666);
     if (made.error())
         return made.error();
-    if (old)
-        made.takeMode(old->st_mode);
+    const bool given = !rights || made.takeRights(*rights);
+    if (replaces && !given)
+        return EPERM;
     made.fill(bytes);
     return made.takePlaceOf(target);
 }
 
 bool isRunning(pid_t process) { return ::kill(process, 0) == 0 || errno == EPERM; }
 
-/// What the folder's own system, on a share the server, holds for the present time; 0 when nothing can be
-/// written.
+/// The present time by the clock of the folder's system (on a share, the server's); 0 when nothing can be
+/// written there.
 time_t clockOf(const QString& folder)
 {
     const NewFile probe(folder);
     return probe.error() ? 0 : probe.status().st_mtime;
 }
 
-/// Shares that a program of the desktop shows as a folder remove a file before they rename another over it,
-/// so that for a moment there is none.
+/// True on shares mounted by a desktop service: these remove a file before they rename another over it, so
+/// that for a moment there is none.
 bool mayBeBetweenTwoFiles(const QString& path)
 {
     struct statfs disk = {};
     return ::statfs(systemName(folderOf(path)).constData(), &disk) == 0 && disk.f_type == FUSE_SUPER_MAGIC;
 }
 
-/// Opens without waiting, so that a pipe that bears a card's name holds nobody up.
+/// Opens without blocking, so that a pipe with a card's name can't hang the program.
 void openForReading(std::optional<OpenFile>& file, const QString& path)
 {
     for (int attempt = 1;; ++attempt) {
@@ -306,31 +313,32 @@ QByteArray readWholeFile(const QString& path, qint64 limit)
     return file->readAll(status.st_size);
 }
 
-void replaceFile(const QString& path, const QByteArray& bytes)
+void replaceFile(const QString& path, const QByteArray& bytes, const QString& like)
 {
     const QString behindLinks = QFileInfo(path).canonicalFilePath();
     const QString target = behindLinks.isEmpty() ? path : behindLinks;
-    const QByteArray targetName = systemName(target);
-    struct stat old = {};
-    const bool replaces = ::stat(targetName.constData(), &old) == 0;
-    if (replaces && !S_ISREG(old.st_mode))
+    const std::optional<FileRights> old = rightsOf(target);
+    if (old && !S_ISREG(old->mode))
         throw RuntimeError(pathAccessError);
-    if (replaces && ::access(targetName.constData(), W_OK) != 0)
+    if (old && ::access(systemName(target).constData(), W_OK) != 0)
         raiseFor(errno);
 
-    const int refusal = putNewFile(target, bytes, replaces ? &old : nullptr);
-    // A folder that refuses new files, or one that lets nobody rename over another's file.
+    const int refusal = putNewFile(target, bytes, old ? old : rightsForNewFile(like), old.has_value());
+    // A folder that refuses new files or their rights, or that lets nobody rename over another's file.
     const bool folderRefuses = refusal == EACCES || refusal == EPERM;
-    if (replaces && folderRefuses)
+    if (old && folderRefuses)
         overwriteInPlace(target, bytes);
     else if (refusal)
         raiseFor(refusal == ENOENT ? ENOTDIR : refusal);
 }
 
-void makeFolder(const QString& path)
+void makeFolder(const QString& path, const QString& like)
 {
-    if (::mkdir(systemName(path).constData(), 0777) == 0)
+    if (::mkdir(systemName(path).constData(), 0777) == 0) {
+        if (const std::optional<FileRights> rights = rightsOf(like))
+            OpenFile(path, O_RDONLY | O_DIRECTORY).takeRights(*rights);
         return;
+    }
     switch (errno) {
     case ENOENT:
         throw RuntimeError(pathNotFound);
@@ -344,13 +352,13 @@ void makeFolder(const QString& path)
 void sweepLeftovers(const QString& folder)
 {
     const QDir dir(folder);
-    const auto leftovers = dir.entryInfoList({leftoverPrefix + QLatin1Char('*')}, QDir::Files | QDir::Hidden);
+    const auto leftovers = dir.entryInfoList({leftoverPrefix + u'*'}, QDir::Files | QDir::Hidden);
     time_t now = 0;
     for (const QFileInfo& leftover : leftovers) {
-        const QStringList parts = leftover.fileName().split(QLatin1Char('~'));
+        const QStringList parts = leftover.fileName().split(u'~');
         const pid_t process = parts.value(2).toInt();
         if (process <= 0)
-            continue; // none of ours
+            continue; // not one of our files
         bool dead = parts.value(1) == machineName() && !isRunning(process);
         if (!dead) {
             now = now ? now : clockOf(folder);

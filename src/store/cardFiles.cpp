@@ -5,25 +5,60 @@
 #include "platform/pictureFile.h"
 #include "platform/textFile.h"
 #include "platform/wholeFile.h"
+#include "store/fileStates.h"
 
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
-constexpr int stripSize = 2;
-
-QString cardFile(int card, const char* extension)
+QString cardFile(int card, QLatin1StringView ending)
 {
-    return filePathIn(session.dbPath, session.cardId[card] + QLatin1String(extension));
+    return cardFilePath(session.dbPath, session.cardId[card], ending);
+}
+
+bool sameIdentity(const QString& recordName, const QString& cardId)
+{
+    return cardIdOf(recordName).compare(cardId, Qt::CaseInsensitive) == 0;
 }
 
 } // namespace
 
+QString newCardId()
+{
+    QString id;
+    for (int i = 0; i < idLength; ++i)
+        id += QChar(int(desktop.random() * 26) + 'A');
+    return id;
+}
+
+QString cardIdOf(const QString& recordName)
+{
+    return recordName.left(recordName.size() - recordEnding.size()).left(idLength);
+}
+
+QString cardFilePath(const QString& folder, const QString& cardId, QLatin1StringView ending)
+{
+    return filePathIn(folder, cardId + ending);
+}
+
+QString cardRecordPath(int card)
+{
+    const QString usual = cardFile(card, recordEnding);
+    const QString& own = session.recordName[card];
+    const bool longer = own.size() > idLength + recordEnding.size();
+    return longer && !QFileInfo::exists(usual) ? filePathIn(session.dbPath, own) : usual;
+}
+
 void loadCardValues(int card)
 {
     ItemReader reader{QString()};
-    ignoringErrors({[&] { reader = ItemReader(readWholeFile(cardFile(card, ".tcd"), largestTextFile)); }});
+    ignoringErrors({[&] { reader = ItemReader(readAndRemember(cardRecordPath(card), largestTextFile)); }});
     QString item;
     for (int f = 0; f <= session.numFields; ++f) {
         if (!reader.atEnd())
@@ -32,60 +67,41 @@ void loadCardValues(int card)
     }
 }
 
-void writeCardValues(int card)
-{
-    CardFields& values = session.cardValue[card];
-    ItemWriter writer;
-    writer.quoted(values[0]);
-    for (int f = 1; f <= session.numFields; ++f) {
-        values[f] = session.DataBox[f];
-        writer.quoted(values[f]);
-    }
-    replaceFile(cardFile(card, ".tcd"), writer.bytes());
-    session.box[card].tooltip = values[1];
-}
+QString cardPicturePath(int card) { return cardFile(card, pictureEnding); }
 
-void saveCardValues(int card)
-{
-    withErrorBox([card] { writeCardValues(card); });
-}
-
-QString cardPicturePath(int card) { return cardFile(card, ".bmp"); }
+QByteArray readCardPicture(int card) { return readAndRemember(cardPicturePath(card), largestFile); }
 
 void loadCardPicture(int card)
 {
     if (session.cardSize == stripSize)
-        session.Picture1.image = {};
+        session.editor.Picture1.image = {};
     else
-        withErrorBox([card] { session.Picture1.image = readPicture(cardPicturePath(card)); });
+        withErrorBox([card] { session.editor.Picture1.image = decodePicture(readCardPicture(card)); });
 }
 
 bool showCardPicture(const QByteArray& bytes)
 {
-    return withErrorBox([&bytes] { session.Picture1.image = decodePicture(bytes); });
+    return withErrorBox([&bytes] { session.editor.Picture1.image = decodePicture(bytes); });
 }
 
-void writeCardPicture(int card)
-{
-    if (session.cardSize != stripSize)
-        replaceFile(cardPicturePath(card), bitmapBytes(session.Picture1.shown()));
-}
-
-void saveCardPicture(int card)
-{
-    withErrorBox([card] { writeCardPicture(card); });
-}
-
-bool cardHasSound(int card) { return QFileInfo(cardFile(card, ".snd")).isFile(); }
+bool cardHasSound(int card) { return QFileInfo(cardFile(card, soundEnding)).isFile(); }
 
 void playCardSound(int card)
 {
     if (cardHasSound(card))
-        desktop.playSound(cardFile(card, ".snd"));
+        desktop.sound.play(cardFile(card, soundEnding));
 }
 
-void deleteAnswers()
+QStringList cardFilesOfOneRecord(const QString& cardId, const QString& recordName)
 {
-    if (!session.dbPath.isEmpty())
-        QFile::remove(filePathIn(session.dbPath, QStringLiteral("Answers.txt")));
+    const QString record = recordName.isEmpty() ? cardId + recordEnding : recordName;
+    const QStringList records = QDir(session.dbPath).entryList({u"*"_s + recordEnding}, QDir::Files);
+    const bool shared = std::any_of(records.begin(), records.end(), [&](const QString& other) {
+        return other.compare(record, Qt::CaseInsensitive) != 0 && sameIdentity(other, cardId);
+    });
+    QStringList files{filePathIn(session.dbPath, record)};
+    if (!shared)
+        files += {cardFilePath(session.dbPath, cardId, pictureEnding),
+                  cardFilePath(session.dbPath, cardId, soundEnding)};
+    return files;
 }

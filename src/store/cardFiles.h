@@ -1,43 +1,52 @@
-// The files of a card: its record, its picture and its sound. Card i's files bear the name cardId(i) in the
-// open database's folder.
+// The files of a card: its record, its picture and its sound. Card i's files have the name cardId(i) and an
+// ending each, in the open database's folder.
 #pragma once
 
 #include "store/paths.h"
 
 #include <QByteArray>
 #include <QString>
+#include <QStringList>
 
-/// Reads the record of card i into its values. Errors are passed over: a value that can't be read repeats the
-/// last one that was, and is empty when none was.
+inline constexpr int idLength = 8;
+inline constexpr QLatin1StringView recordEnding(".tcd");
+inline constexpr QLatin1StringView pictureEnding(".bmp");
+inline constexpr QLatin1StringView soundEnding(".snd");
+
+/// Eight random capitals: the identity of a new card.
+QString newCardId();
+
+/// The identity of the card whose record file has that name: what stands before the ending, cut to eight.
+QString cardIdOf(const QString& recordName);
+
+/// The path of the card's file with that ending, in the capitals in which the folder has it.
+QString cardFilePath(const QString& folder, const QString& cardId, QLatin1StringView ending);
+
+/// Reads the record of card i into its values. Errors are ignored: a value that can't be read repeats the
+/// last one that was, or is empty if there was none.
 void loadCardValues(int card);
 
-/// Takes the values of card i from `DataBox` and writes its record; then the card's tooltip is its label.
-/// A failure is told in the error box.
-void saveCardValues(int card);
-
-/// The same, but a failure is raised.
-void writeCardValues(int card);
+/// The path of the card's record: the file called by its identity, or the one that it was found in where
+/// there is none of that name.
+QString cardRecordPath(int card);
 
 /// The path of the card's picture.
 QString cardPicturePath(int card);
 
-/// Shows the card's picture in `Picture1`; nothing when cards are strips. After a failure, which is told in
-/// the error box, `Picture1` shows what it did before.
+/// Loads the card's picture into `Picture1`; nothing when cards are strips. A failure is shown in the error
+/// box, and `Picture1` keeps its content.
 void loadCardPicture(int card);
 
-/// The same with bytes that were read before: those of a picture file. False when they are no picture.
+/// The same from the bytes of a picture file. False when they are not a picture.
 bool showCardPicture(const QByteArray& bytes);
 
-/// Writes what `Picture1` shows as the card's picture, unless cards are strips. A failure is told in the
-/// error box.
-void saveCardPicture(int card);
-
-/// The same, but a failure is raised.
-void writeCardPicture(int card);
+/// The bytes of the card's picture file. Raises as readWholeFile().
+QByteArray readCardPicture(int card);
 
 /// Plays the card's sound, if it has one, without waiting for its end.
 void playCardSound(int card);
 bool cardHasSound(int card);
 
-/// Deletes the answers to the open database's questions; passes over a failure.
-void deleteAnswers();
+/// The files that go when a record is deleted: the record of that name, the usual one of the identity when it
+/// is empty, and picture and sound unless another record of the folder has the same identity.
+QStringList cardFilesOfOneRecord(const QString& cardId, const QString& recordName);

@@ -1,38 +1,47 @@
 #include "store/descriptionFile.h"
 
 #include "core/session.h"
+#include "platform/desktop.h"
 #include "platform/errors.h"
 #include "platform/pictureFile.h"
 #include "platform/textFile.h"
 #include "platform/wholeFile.h"
+#include "store/fileStates.h"
+#include "store/keptVersions.h"
 #include "store/paths.h"
 
 #include <QDir>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
 constexpr int cardMenu = 1;
 constexpr int deleteCardLine = 1;
 
-const QString oldVersion = QStringLiteral("1.0.0");
-const QString newVersion = QStringLiteral("1.1.0");
+const QString oldVersion = u"1.0.0"_s;
+const QString newVersion = u"1.1.0"_s;
 constexpr int oldListLength = 6;
-constexpr int newListLength = 12;
 
-QString descriptionPath() { return filePathIn(session.dbPath, QLatin1String(descriptionName)); }
+QString descriptionPath() { return filePathIn(session.dbPath, descriptionName); }
 
-ItemReader openDescription() { return ItemReader(readWholeFile(descriptionPath(), largestTextFile)); }
+ItemReader openDescription() { return ItemReader(readAndRemember(descriptionPath(), largestTextFile)); }
 
-/// One step of the reading. What fails in it is told and passed over.
+void tellProblem()
+{
+    showErrorBox(u"There was a problem reading your database, some of the data may be missing"_s);
+}
+
+/// One step of the reading. A failure is reported, and reading goes on.
 void attempt(const std::function<void()>& step)
 {
     ignoringErrors({step}, [] {
-        showErrorBox(
-            QStringLiteral("There was a problem reading your database, some of the data may be missing"));
+        session.descriptionWhole = false;
+        tellProblem();
     });
 }
 
-/// The next item as a number from `least` to `most`; any other is an error.
+/// The next item as a number from `least` to `most`; anything else is an error.
 qint16 nextWithin(ItemReader& reader, int least, int most)
 {
     const qint16 number = reader.nextInteger();
@@ -44,35 +53,56 @@ qint16 nextWithin(ItemReader& reader, int least, int most)
 void readField(ItemReader& reader, int f, int listLength)
 {
     attempt([&] { session.fieldName[f] = reader.next(); });
-    session.editorFieldName[f] = session.fieldName[f];
+    session.editor.fieldName[f] = session.fieldName[f];
     attempt([&] { session.fieldType[f] = reader.next(); });
     attempt([&] { session.fieldUseList[f] = reader.nextTruth(); });
     if (!session.fieldUseList[f])
         return;
     for (int item = 1; item <= listLength; ++item)
         attempt([&] { session.fieldListItem[f][item] = reader.next(); });
-    for (int item = listLength + 1; item <= newListLength; ++item)
+    for (int item = listLength + 1; item <= lastAnswer; ++item)
         session.fieldListItem[f][item].clear(); // a shorter list must not inherit another database's answers
 }
 
 void applyStatus()
 {
-    const bool readOnly = session.databaseStatus == QLatin1String("RO");
-    session.menuItemState[cardMenu][deleteCardLine] =
-        readOnly ? QStringLiteral("Don'tShow") : QStringLiteral("Show");
-    session.designReadOnly = readOnly;
+    const bool readOnly = session.databaseStatus == "RO"_L1;
+    session.menu.menuItemState[cardMenu][deleteCardLine] = readOnly ? u"Don'tShow"_s : u"Show"_s;
+    session.design.ChkRD = readOnly;
 }
 
-/// An empty name empties the board's background. A name without a folder lies in the database's own.
+/// An empty name removes the board's background. A name without a folder means a file in the database's
+/// folder.
 void loadBackground()
 {
     const QString& name = session.backgroundPicture;
+    // Cards lie on places of a map, so it keeps its pixels on every screen; only a photo larger than any is
+    // shrunk.
+    const QSize needed(3840, 2400);
     if (name.isEmpty())
         session.backgroundImage = {};
     else if (QDir::isRelativePath(name))
-        session.backgroundImage = readPicture(filePathIn(session.dbPath, name));
+        session.backgroundImage = readPicture(filePathIn(session.dbPath, name), needed);
     else
-        session.backgroundImage = readPicture(cleanPath(name));
+        session.backgroundImage = readPicture(cleanPath(name), needed);
+}
+
+QByteArray descriptionBytes()
+{
+    ItemWriter writer;
+    writer.number(session.numFields);
+    writer.number(session.cardSize);
+    writer.quoted(session.backgroundPicture);
+    for (int f = 1; f <= session.numFields; ++f) {
+        writer.quoted(session.fieldName[f]);
+        writer.quoted(session.fieldType[f]);
+        writer.bare(session.fieldUseList[f] ? u"True"_s : u"False"_s);
+        for (int item = 1; session.fieldUseList[f] && item <= lastAnswer; ++item)
+            writer.quoted(session.fieldListItem[f][item]);
+    }
+    writer.bare(session.databaseStatus);
+    writer.bare(u"VER=\""_s + session.dbVersion + u'"');
+    return writer.bytes();
 }
 
 } // namespace
@@ -84,7 +114,7 @@ void readDbVersion()
     QString last;
     while (!reader.atEnd())
         last = reader.next();
-    if (!last.startsWith(QLatin1String("VER")))
+    if (!last.startsWith("VER"_L1))
         return;
     if (last.size() < 6) // cut short
         throw RuntimeError(pastEndOfFile);
@@ -94,9 +124,10 @@ void readDbVersion()
 void readDbInfo()
 {
     for (int f = 1; f <= session.maxFields; ++f)
-        session.editorFieldName[f] = QStringLiteral("Fieldname") + QString::number(f);
+        session.editor.fieldName[f] = u"Fieldname"_s + QString::number(f);
+    session.descriptionWhole = true;
     attempt(readDbVersion);
-    const int listLength = session.dbVersion == oldVersion ? oldListLength : newListLength;
+    const int listLength = session.dbVersion == oldVersion ? oldListLength : lastAnswer;
 
     ItemReader reader{QString()};
     QString background = session.backgroundPicture;
@@ -111,7 +142,7 @@ void readDbInfo()
 
     if (background != session.backgroundPicture) {
         session.backgroundPicture = background;
-        attempt(loadBackground);
+        ignoringErrors({loadBackground}, tellProblem);
     }
 }
 
@@ -119,19 +150,17 @@ void writeDbInfo()
 {
     session.dbVersion = newVersion;
     withErrorBox([] {
-        ItemWriter writer;
-        writer.number(session.numFields);
-        writer.number(session.cardSize);
-        writer.quoted(session.backgroundPicture);
-        for (int f = 1; f <= session.numFields; ++f) {
-            writer.quoted(session.fieldName[f]);
-            writer.quoted(session.fieldType[f]);
-            writer.bare(session.fieldUseList[f] ? QStringLiteral("True") : QStringLiteral("False"));
-            for (int item = 1; session.fieldUseList[f] && item <= newListLength; ++item)
-                writer.quoted(session.fieldListItem[f][item]);
-        }
-        writer.bare(session.databaseStatus);
-        writer.bare(QStringLiteral("VER=\"") + session.dbVersion + QLatin1Char('"'));
-        replaceFile(descriptionPath(), writer.bytes());
+        const QString path = descriptionPath();
+        const QByteArray bytes = descriptionBytes();
+        const FileState known = knownState(path);
+        const FileState now = stateToReplace(path);
+        const bool isThere = now.error == 0;
+        if (isThere && known.error == 0 && itemsIn(known.bytes) == itemsIn(bytes))
+            return; // nobody has changed anything here
+        if (isThere && known.error != 0 && known.error != fileNotFound)
+            throw RuntimeError(pathAccessError);
+        if (isThere && (now != known || !session.descriptionWhole))
+            keepVersions({path});
+        replaceAndRemember(path, bytes);
     });
 }

@@ -2,17 +2,20 @@
 // background picture and whether cards may be deleted.
 #pragma once
 
+#include "store/paths.h"
+
 #include <QString>
 
-inline constexpr auto descriptionName = "db-info.tdb";
-
-/// Sets session.dbVersion: what the file's last line tells, "1.0.0" when it tells none. Raises what reading
-/// raises.
+/// Sets session.dbVersion from the file's last line, "1.0.0" when it holds none. Errors of reading the file
+/// are raised.
 void readDbVersion();
 
-/// Reads the description into the session and loads the background picture when it is another one. Never
-/// abandoned: what can't be read keeps its former value, and each such item gives a message.
+/// Reads the description into the session and loads the background picture if it has changed. Always reads to
+/// the end: an item that can't be read is reported and keeps its former value. Afterwards
+/// session.descriptionWhole tells whether all of it could be read.
 void readDbInfo();
 
-/// Writes the description from the session as version 1.1.0. A failure is told in the error box.
+/// Writes the description from the session as version 1.1.0, unless that changes nothing. A version that was
+/// not read, or not read whole, is kept first. A failure is shown in the error box, 75 when there is a
+/// description that couldn't be read.
 void writeDbInfo();

@@ -5,7 +5,7 @@
 
 namespace {
 
-bool isSeparator(QChar character) { return character == QLatin1Char('\\') || character == QLatin1Char('/'); }
+bool isSeparator(QChar character) { return character == u'\\' || character == u'/'; }
 
 } // namespace
 
@@ -22,7 +22,7 @@ QString cleanPath(const QString& path)
 
 QString lastPathPart(const QString& path)
 {
-    return path.sliced(std::max(path.lastIndexOf(QLatin1Char('\\')), path.lastIndexOf(QLatin1Char('/'))) + 1);
+    return path.sliced(std::max(path.lastIndexOf(u'\\'), path.lastIndexOf(u'/')) + 1);
 }
 
 QString joinPath(const QString& folder, const QString& name)

@@ -4,7 +4,9 @@
 #include "platform/profileFile.h"
 #include "store/paths.h"
 
-QString settingsFile() { return joinPath(desktop.programFolder(), QStringLiteral("tallymoor.ini")); }
+using namespace Qt::StringLiterals;
+
+QString settingsFile() { return joinPath(desktop.files.programFolder(), u"tallymoor.ini"_s); }
 
 QString readSetting(const QString& file, const QString& section, const QString& key, const QString& absent)
 {
@@ -13,6 +15,6 @@ QString readSetting(const QString& file, const QString& section, const QString& 
 
 bool writeSetting(const QString& file, const QString& section, const QString& key, const QString& value)
 {
-    writeProfile(section, key, value, file);
+    writeProfile({{section, key, value}}, file);
     return true;
 }

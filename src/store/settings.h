@@ -1,4 +1,5 @@
-// The options of the installation. Every read goes to the file; a reader names its own default.
+// The settings file of the installation, key by key. Every read goes to the file. The keys that the program
+// knows, with their defaults, are in store/options.h.
 #pragma once
 
 #include <QString>
@@ -6,8 +7,9 @@
 /// The settings file in the program's folder.
 QString settingsFile();
 
-/// The value of the key, `absent` when the file, the section or the key isn't there.
+/// The value of the key, `absent` when the file, the section or the key doesn't exist.
 QString readSetting(const QString& file, const QString& section, const QString& key, const QString& absent);
 
-/// Writes the one key and leaves all others. True also when the file can't be written, which nobody is told.
+/// Writes one key; all others stay. A file that can't be written is not reported: the result is true then
+/// too.
 bool writeSetting(const QString& file, const QString& section, const QString& key, const QString& value);

@@ -1,32 +1,19 @@
 #include "tools/FrmSpeed.h"
 
-#include "core/screen.h"
+#include "controls/dialogParts.h"
+#include "controls/forms.h"
 #include "core/session.h"
-#include "platform/balloon.h"
-#include "platform/dialogParts.h"
 #include "platform/errors.h"
-#include "platform/forms.h"
-#include "platform/picture.h"
 #include "tools/pacing.h"
 
 #include <QCloseEvent>
 #include <QGridLayout>
-#include <QPointer>
 #include <QSlider>
 #include <QWindow>
 
-namespace {
+using namespace Qt::StringLiterals;
 
-QPushButton* paceButton(const char* name, const QString& icon, const QString& accessibleName,
-                        const QString& tip)
-{
-    auto* button = named(new QPushButton, name);
-    button->setIcon(QIcon(picturePath(icon)));
-    button->setAccessibleName(accessibleName);
-    giveHint(*button, tip);
-    button->setAutoDefault(true);
-    return button;
-}
+namespace {
 
 QLabel* endOfSlider(const char* name, const QString& text)
 {
@@ -39,30 +26,29 @@ QLabel* endOfSlider(const char* name, const QString& text)
 
 FrmSpeed::FrmSpeed()
     : Slider1(named(new QSlider(Qt::Horizontal), "Slider1"))
-    , BtnPause(paceButton("BtnPause", QStringLiteral("pause"), QStringLiteral("Pause"),
-                          QStringLiteral("Click here to pause the process")))
-    , BtnResume(paceButton("BtnResume", QStringLiteral("resume"), QStringLiteral("Carry on"),
-                           QStringLiteral("Click here to carry on with the process")))
+    , BtnPause(named(iconButton(u"pause"_s, u"Pause"_s, u"Click here to pause the process"_s), "BtnPause"))
+    , BtnResume(named(iconButton(u"resume"_s, u"Carry on"_s, u"Click here to carry on with the process"_s),
+                      "BtnResume"))
 {
-    setObjectName(QStringLiteral("FrmSpeed"));
-    setWindowTitle(QStringLiteral("Speed"));
+    setObjectName(u"FrmSpeed"_s);
+    setWindowTitle(u"Speed"_s);
     setWindowFlags(Qt::Tool | Qt::WindowTitleHint | Qt::WindowCloseButtonHint);
     setAttribute(Qt::WA_ShowWithoutActivating);
 
     Slider1->setRange(1, 9);
     Slider1->setPageStep(1);
     Slider1->setTickPosition(QSlider::TicksBelow);
-    Slider1->setAccessibleName(QStringLiteral("Speed"));
+    Slider1->setAccessibleName(u"Speed"_s);
     Slider1->setMinimumWidth(220);
 
     auto* grid = new QGridLayout(this);
-    grid->addWidget(pictureLabel(QStringLiteral("slow"), {40, 40}), 0, 0, Qt::AlignCenter);
+    grid->addWidget(pictureLabel(u"slow"_s, {40, 40}), 0, 0, Qt::AlignCenter);
     grid->addWidget(Slider1, 0, 1);
-    grid->addWidget(pictureLabel(QStringLiteral("fast"), {40, 40}), 0, 2, Qt::AlignCenter);
-    grid->addWidget(endOfSlider("Label1", QStringLiteral("Slow")), 1, 0);
+    grid->addWidget(pictureLabel(u"fast"_s, {40, 40}), 0, 2, Qt::AlignCenter);
+    grid->addWidget(endOfSlider("Label1", u"Slow"_s), 1, 0);
     grid->addWidget(BtnPause, 1, 1, Qt::AlignCenter);
     grid->addWidget(BtnResume, 1, 1, Qt::AlignCenter);
-    grid->addWidget(endOfSlider("Label2", QStringLiteral("Fast")), 1, 2);
+    grid->addWidget(endOfSlider("Label2", u"Fast"_s), 1, 2);
 
     connect(Slider1, &QSlider::valueChanged, this,
             [](int position) { guarded([&] { speedChosen(position); }); });
@@ -81,20 +67,20 @@ FrmSpeed::FrmSpeed()
 
 void FrmSpeed::showPreparedPace()
 {
-    Slider1->setValue(session.speedPosition);
+    Slider1->setValue(session.run.speedPosition);
     showPauseOrResume();
 }
 
 void FrmSpeed::showPauseOrResume()
 {
-    BtnPause->setVisible(!session.runPaused);
-    BtnResume->setVisible(session.runPaused);
+    BtnPause->setVisible(!session.run.paused);
+    BtnResume->setVisible(session.run.paused);
 }
 
 void FrmSpeed::hideEvent(QHideEvent* event)
 {
     QDialog::hideEvent(event);
-    if (!event->spontaneous()) // not when the pupil only puts the windows aside
+    if (!event->spontaneous()) // not when the window is merely minimised
         stopRun();
 }
 
@@ -104,21 +90,17 @@ void FrmSpeed::closeEvent(QCloseEvent* event)
     unload<FrmSpeed>();
 }
 
-void installSpeedWindow(QWidget& mainWindow)
+void showSpeedWindow(const QWidget* mainWindow)
 {
-    const QPointer<QWidget> main = &mainWindow;
-    screen.showSpeedWindow = [main] {
-        auto& speed = form<FrmSpeed>();
-        speed.showPreparedPace();
-        speed.adjustSize();
-        if (main) {
-            const double right = main->width() - speed.width() - 240 / session.twipsPerPixelX;
-            // Above the main window, but not above the dialogs that open meanwhile.
-            speed.winId();
-            speed.windowHandle()->setTransientParent(main->windowHandle());
-            speed.move(main->mapToGlobal(QPoint(int(right), 120 / session.twipsPerPixelY)));
-        }
-        speed.show();
-    };
-    screen.unloadSpeedWindow = [] { unload<FrmSpeed>(); };
+    auto& speed = form<FrmSpeed>();
+    speed.showPreparedPace();
+    speed.adjustSize();
+    if (mainWindow) {
+        const double right = mainWindow->width() - speed.width() - 240 / session.twipsPerPixelX;
+        // Keeps it above the main window, but not above dialogs opened later.
+        speed.winId();
+        speed.windowHandle()->setTransientParent(mainWindow->windowHandle());
+        speed.move(mainWindow->mapToGlobal(QPoint(int(right), 120 / session.twipsPerPixelY)));
+    }
+    speed.show();
 }

@@ -1,5 +1,4 @@
-// The small floating window that sets the pace of flying cards, pauses them and, when it is closed, ends the
-// run.
+// The small floating window that sets the speed of flying cards and pauses them. Closing it ends the run.
 #pragma once
 
 #include <QDialog>
@@ -13,7 +12,7 @@ public:
     FrmSpeed();
     void load() {}
 
-    /// Takes the pace that was prepared for a new run.
+    /// Shows the speed prepared for a new run.
     void showPreparedPace();
 
 protected:
@@ -28,5 +27,5 @@ private:
     QPushButton* const BtnResume;
 };
 
-/// Lets the tools show and unload the window. It stands near the upper right corner of `mainWindow`.
-void installSpeedWindow(QWidget& mainWindow);
+/// Shows the window near the upper right corner of `mainWindow`, which may be null.
+void showSpeedWindow(const QWidget* mainWindow);

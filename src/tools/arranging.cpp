@@ -1,24 +1,26 @@
 #include "tools/arranging.h"
 
 #include "board/places.h"
-#include "core/screen.h"
+#include "core/mainView.h"
 #include "core/session.h"
+#include "database/opening.h"
 #include "platform/desktop.h"
-#include "store/opening.h"
 
 #include <algorithm>
 #include <iterator>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
 constexpr int lowerMargin = 36;
 constexpr int rightMargin = 8;
 
-double alongWidth(int i) { return (i - 1) * (session.boardWidth - session.box[0].width) / session.numCards; }
+double alongWidth(int i) { return (i - 1) * (session.board.width - session.box[0].width) / session.numCards; }
 
 double alongHeight(int i)
 {
-    return (i - 1) * (session.boardHeight - session.box[0].height - lowerMargin) / session.numCards;
+    return (i - 1) * (session.board.height - session.box[0].height - lowerMargin) / session.numCards;
 }
 
 QPointF corner() { return {session.box[0].left, session.box[0].top}; }
@@ -26,18 +28,18 @@ QPointF corner() { return {session.box[0].left, session.box[0].top}; }
 QPointF onTop(int i) { return corner() + QPointF(alongWidth(i), 0); }
 QPointF atBottom(int i)
 {
-    return {corner().x() + alongWidth(i), session.boardHeight - lowerMargin - session.box[0].height};
+    return {corner().x() + alongWidth(i), session.board.height - lowerMargin - session.box[0].height};
 }
 QPointF atLeft(int i) { return corner() + QPointF(0, alongHeight(i)); }
 QPointF atRight(int i)
 {
-    return {session.boardWidth - session.box[0].width - rightMargin, corner().y() + alongHeight(i)};
+    return {session.board.width - session.box[0].width - rightMargin, corner().y() + alongHeight(i)};
 }
 
 struct Layout {
     const char* word;
-    QPointF (*place)(int card); // null where the cards are placed otherwise
-    QPointF (*preview)(int i);  // of shape 0..5
+    QPointF (*place)(int card); // null where another routine places the cards
+    QPointF (*preview)(int i);  // of preview shape 0..5
 };
 
 constexpr Layout layouts[] = {
@@ -86,13 +88,13 @@ QStringList arrangements()
 void arrangeCards(const QString& word)
 {
     const Layout* layout = layoutOf(word);
-    if (word == QLatin1String("Tiled")) {
+    if (word == "Tiled"_L1) {
         tileCards();
     } else if (layout != nullptr) {
         for (int card = 1; card <= session.numCards; ++card)
             placeOne(*layout, card);
     }
-    screen.redrawBoard();
+    mainView.redrawBoard();
 }
 
 std::array<QPointF, 6> arrangementPreview(const QString& word)
@@ -100,6 +102,6 @@ std::array<QPointF, 6> arrangementPreview(const QString& word)
     const Layout* layout = layoutOf(word);
     std::array<QPointF, 6> places;
     for (int i = 0; i < 6; ++i)
-        places[std::size_t(i)] = (layout != nullptr ? *layout : layouts[0]).preview(i);
+        places[i] = (layout != nullptr ? *layout : layouts[0]).preview(i);
     return places;
 }

@@ -1,4 +1,4 @@
-// Tidying the board at a stroke: six layouts, and the small preview of each.
+// Six ways of arranging all cards at once, and the small preview of each.
 #pragma once
 
 #include <QPointF>
@@ -10,8 +10,8 @@
 /// "Top", "Bottom", "Left", "Right", "Randomly", "Tiled", in the order of the list.
 QStringList arrangements();
 
-/// Lays all cards out by the word; any other word does nothing. Each card comes to the front in turn.
+/// Lays all cards out in the named way; any other word does nothing. Each card comes to the front in turn.
 void arrangeCards(const QString& word);
 
-/// Where the preview's six small shapes stand, in pixels of the dialog. Another word gives those of "Top".
+/// The places of the preview's six small shapes, in pixels of the dialog; those of "Top" for an unknown word.
 std::array<QPointF, 6> arrangementPreview(const QString& word);

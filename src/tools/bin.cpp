@@ -2,36 +2,20 @@
 
 #include "board/mode.h"
 #include "board/places.h"
-#include "core/screen.h"
+#include "core/mainView.h"
 #include "core/session.h"
 #include "core/title.h"
+#include "database/loading.h"
 #include "platform/errors.h"
-#include "store/loading.h"
-#include "store/paths.h"
-
-#include <QFile>
+#include "store/cardFiles.h"
+#include "store/keptVersions.h"
 
 #include <algorithm>
 #include <cmath>
 
+using namespace Qt::StringLiterals;
+
 namespace {
-
-void removeFile(const QString& name)
-{
-    const QString path = filePathIn(session.dbPath, name);
-    if (!path.isEmpty())
-        QFile::remove(path);
-}
-
-/// The card that has the identity now; 0 when none has: another workstation may have been quicker.
-int cardWithId(const QString& cardId)
-{
-    for (int card = 1; card <= session.numCards; ++card) {
-        if (session.cardId[card] == cardId)
-            return card;
-    }
-    return 0;
-}
 
 void scatterCards()
 {
@@ -39,7 +23,7 @@ void scatterCards()
         placeCardAtRandom(card);
         saveCardPosition(card);
     }
-    screen.redrawBoard();
+    mainView.redrawBoard();
 }
 
 } // namespace
@@ -47,35 +31,33 @@ void scatterCards()
 void showBin()
 {
     showCardMode();
-    Bin& bin = session.BigBin;
-    bin.left = std::clamp(bin.left, 0.0, std::max(0.0, session.boardWidth - bin.width));
-    bin.top = std::clamp(bin.top, 0.0, std::max(0.0, session.boardHeight - bin.height));
+    Bin& bin = session.board.BigBin;
+    bin.left = std::clamp(bin.left, 0.0, std::max(0.0, session.board.width - bin.width));
+    bin.top = std::clamp(bin.top, 0.0, std::max(0.0, session.board.height - bin.height));
     bin.visible = true;
-    screen.redrawBoard();
+    mainView.redrawBoard();
 }
 
 bool liesOnBin(int card)
 {
-    const Bin& bin = session.BigBin;
+    const Bin& bin = session.board.BigBin;
     const CardImage& image = session.box[card];
     const double dx = std::abs((image.left + image.width / 2) - (bin.left + bin.width / 2));
     const double dy = std::abs((image.top + image.height / 2) - (bin.top + bin.height / 2));
     return bin.visible && dx < bin.width / 2 && dy < bin.height / 2;
 }
 
-void deleteCard(const QString& cardId)
+void deleteCard(const QString& cardId, const QString& recordName)
 {
     ignoringErrors({
-        [&] { removeFile(cardId + QStringLiteral(".tcd")); },
-        [&] { removeFile(cardId + QStringLiteral(".bmp")); },
-        [&] { removeFile(cardId + QStringLiteral(".snd")); },
+        [&] { moveToKept(cardFilesOfOneRecord(cardId, recordName)); },
         [&] {
             if (const int card = cardWithId(cardId); card != 0)
                 clearCardValues(card);
         },
         loadAllCards,
         [] {
-            if (session.txtDelRandomCard == QLatin1String("1"))
+            if (session.options.txtDelRandomCard == "1"_L1)
                 scatterCards();
         },
         updateTitle,

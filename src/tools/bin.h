@@ -3,12 +3,14 @@
 
 #include <QString>
 
-/// Changes to the cards and shows the bin behind them, wholly on the board.
+/// Switches to the cards and shows the bin behind them, entirely on the board.
 void showBin();
 
-/// Whether the card's centre lies within the bin's rectangle, with the bin in view.
+/// Whether the bin is shown and contains the card's centre.
 bool liesOnBin(int card);
 
-/// Removes the files of the card with that identity and loads the folder again; then scatters the cards when
-/// the teacher wants that. Errors are passed over: a card whose files stay comes back with the reload.
-void deleteCard(const QString& cardId);
+/// Removes the files of the card with that identity and loads the folder again; then scatters the remaining
+/// cards if that option is set. Of several records of one identity only the one with that name is removed,
+/// and picture and sound stay for the others. Errors are ignored: a card whose files couldn't be removed
+/// reappears with the reload.
+void deleteCard(const QString& cardId, const QString& recordName = {});

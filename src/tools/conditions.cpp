@@ -5,6 +5,8 @@
 
 #include <iterator>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 struct TextWord {
@@ -12,7 +14,7 @@ struct TextWord {
     bool (*holds)(const QString& cardText, const QString& wanted);
 };
 
-// An empty value begins and ends every text. QString's own startsWith() denies that of a text never set.
+// Every text begins and ends with an empty value. QString::startsWith() returns false for a null string.
 constexpr TextWord textWords[] = {
     {"is", [](const QString& c, const QString& v) { return c == v; }},
     {"is not", [](const QString& c, const QString& v) { return c != v; }},
@@ -57,7 +59,7 @@ bool holds(const Words& words, const QString& word, const Value& cardValue, cons
 
 QString adjustCase(const QString& text)
 {
-    if (session.caseSensitive)
+    if (session.options.caseSensitive)
         return text;
     QString capitals = text;
     for (QChar& character : capitals)
@@ -69,13 +71,13 @@ QString filterNumeric(const QString& text)
 {
     QString kept;
     std::copy_if(text.begin(), text.end(), std::back_inserter(kept),
-                 [](QChar character) { return QStringLiteral("0123456789+-.").contains(character); });
+                 [](QChar character) { return u"0123456789+-."_s.contains(character); });
     return kept;
 }
 
 QStringList comparisonWords(const QString& fieldType)
 {
-    return fieldType == QLatin1String("Abc") ? listed(textWords) : listed(numberWords);
+    return fieldType == "Abc"_L1 ? listed(textWords) : listed(numberWords);
 }
 
 bool testCondition(int row, int card)
@@ -84,7 +86,7 @@ bool testCondition(int row, int card)
     const int field = condition.fieldTag.toInt();
     const QString cardText = adjustCase(session.cardValue[card][field]);
     const QString wanted = adjustCase(condition.value);
-    if (session.fieldType[field] == QLatin1String("Abc"))
+    if (session.fieldType[field] == "Abc"_L1)
         return holds(textWords, condition.word, cardText, wanted);
     return holds(numberWords, condition.word, leadingNumber(cardText), leadingNumber(wanted));
 }
@@ -92,6 +94,5 @@ bool testCondition(int row, int card)
 QString conditionText(int row)
 {
     const FindRow& condition = session.findRow[row];
-    return condition.field + QLatin1Char(' ') + condition.word + QLatin1Char(' ') + condition.value +
-           QLatin1Char(' ');
+    return condition.field + u' ' + condition.word + u' ' + condition.value + u' ';
 }

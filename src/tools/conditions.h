@@ -1,10 +1,10 @@
-// What a pupil looks for: up to three conditions of field, word and value, and their test on one card.
+// The conditions of a search, up to three, each of field, word and value, and their test on one card.
 #pragma once
 
 #include <QString>
 #include <QStringList>
 
-/// The text in capitals, unless the teacher wants case to count. Its length never changes.
+/// The text in capitals, unless case-sensitive comparison is set. Its length doesn't change.
 QString adjustCase(const QString& text);
 
 /// The text without every character that is not in "0123456789+-.".
@@ -13,8 +13,8 @@ QString filterNumeric(const QString& text);
 /// The comparison words for a field type, in the order of the list.
 QStringList comparisonWords(const QString& fieldType);
 
-/// Whether condition `row` (0..2) of session.findRow holds for the card. A missing word holds for none.
+/// Whether the card meets condition `row` (0..2) of session.findRow. No card meets one without a word.
 bool testCondition(int row, int card);
 
-/// "field word value " as the titles of a search tell condition `row`, with the blank at the end.
+/// Condition `row` in the title of a search: "field word value ", including the blank at the end.
 QString conditionText(int row);

@@ -1,8 +1,8 @@
-// Asks what to look for: up to three conditions, of which the window's height shows as many as are joined.
+// Asks what to look for: up to three conditions. The window is high enough for those that are joined.
 #pragma once
 
-#include "platform/answerButtons.h"
-#include "platform/answerHolder.h"
+#include "controls/answerButtons.h"
+#include "controls/answerHolder.h"
 
 #include <array>
 
@@ -17,7 +17,7 @@ public:
     findForm();
     void load() {}
 
-    /// Empties the three conditions, offers the fields of the open database and shows the first row alone.
+    /// Clears the three conditions, offers the fields of the open database and shows the first row only.
     void prepare();
 
 protected:
@@ -32,6 +32,7 @@ private:
         QPushButton* pullDownBut;
     };
 
+    QComboBox* dropDown(const char* group, int number, const QString& meaning);
     void makeRow(int row);
     void makeJoin(int join);
     void layOut();
@@ -42,12 +43,13 @@ private:
     void joinPicked(int join);
     void showRow(int row, bool visible);
     void takeHeight(int twips);
+    void showWhatFits();
     int fieldOf(int row) const;
 
     std::array<Row, 3> rows{};
+    std::array<bool, 3> rowShown{true, false, false}; // whether the window is high enough for it
     std::array<QComboBox*, 2> andOr{};
     QCheckBox* const vennTick;
     QLabel* const Logo2;
     AnswerHolder* const answerHolder;
-    int answersOfRow = -1;
 };

@@ -1,7 +1,7 @@
 #include "tools/finding.h"
 
 #include "board/labels.h"
-#include "core/screen.h"
+#include "core/mainView.h"
 #include "core/session.h"
 #include "tools/conditions.h"
 #include "tools/flight.h"
@@ -10,12 +10,14 @@
 #include <algorithm>
 #include <iterator>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 struct FindRule {
     const char* joined;
     bool (*holds)(bool c0, bool c1, bool c2);
-    int rows; // how many conditions it reads
+    int rows; // number of conditions that it uses
 };
 
 constexpr FindRule rules[] = {
@@ -36,7 +38,7 @@ const FindRule* ruleOf(const QString& joined)
     return found == std::end(rules) ? nullptr : found;
 }
 
-bool joins(const QString& word) { return word == QLatin1String("and") || word == QLatin1String("or"); }
+bool joins(const QString& word) { return word == "and"_L1 || word == "or"_L1; }
 
 } // namespace
 
@@ -56,19 +58,19 @@ bool isFound(const QString& joined, int card)
 void showSearchTitle()
 {
     clearBoardLabels();
-    QString sentence = QStringLiteral("Search for: ") + conditionText(0);
+    QString sentence = u"Search for: "_s + conditionText(0);
     for (int row = 1; row <= 2; ++row) {
         const QString& word = session.andOr[row - 1];
         if (joins(word))
-            sentence += word + QLatin1Char(' ') + conditionText(row);
+            sentence += word + u' ' + conditionText(row);
     }
-    BoardLabel& title = session.searchTitle;
+    BoardLabel& title = session.board.searchTitle;
     title.text = sentence;
-    screen.measureLabel(title.text, title.width, title.height);
-    title.left = session.boardWidth / 2 - title.width / 2;
+    mainView.measureLabel(title.text, title.width, title.height);
+    title.left = session.board.width / 2 - title.width / 2;
     title.top = 48;
     title.visible = true;
-    screen.redrawBoard();
+    mainView.redrawBoard();
 }
 
 void moveCardFound(int card, bool found)
@@ -76,7 +78,7 @@ void moveCardFound(int card, bool found)
     if (found)
         ++session.foundCount;
     const double target =
-        found ? session.boardHeight * 0.25 : session.boardHeight - 16 - session.box[card].height;
+        found ? session.board.height * 0.25 : session.board.height - 16 - session.box[card].height;
     if (!found)
         flyAlong(card, Axis::y, target);
     else if (flyOnto(card, Axis::y, target))

@@ -3,19 +3,19 @@
 
 #include <QString>
 
-/// Whether the card is found by session.findRow under the two joining words, taken together as one text
-/// ("  ", "and ", "orand", …). A text that is no rule finds nothing.
+/// Whether the card matches session.findRow. `joined` is the text of both joining words in a row ("  ", "and
+/// ", "orand", …); an unknown one matches nothing.
 bool isFound(const QString& joined, int card);
 
-/// Whether `joined` is one of the rules.
+/// Whether `joined` is a known combination.
 bool isFindRule(const QString& joined);
 
-/// Writes and places the search as a sentence at the top of the board.
+/// Shows the search as a sentence at the top of the board.
 void showSearchTitle();
 
 /// One step of the run: counts a found card and slides it to a quarter of the board's height, any other one
-/// to the bottom edge. A card not found stays where its flight left it.
+/// to the bottom edge. A card that was not found stays where its flight ended.
 void moveCardFound(int card, bool found);
 
-/// The whole run over all cards, from the title to session.foundCount.
+/// The whole run: shows the title, moves every card and sets session.foundCount.
 void runFind();

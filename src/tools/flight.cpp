@@ -1,6 +1,6 @@
 #include "tools/flight.h"
 
-#include "core/screen.h"
+#include "core/mainView.h"
 #include "core/session.h"
 #include "platform/desktop.h"
 #include "platform/values.h"
@@ -18,17 +18,17 @@ double& place(int card, Axis axis)
 
 bool flyAlong(int card, Axis axis, double target)
 {
-    while (std::abs(target - place(card, axis)) > session.animationSpeed && !session.animationStopped) {
-        // Towards the target from wherever the card is by now: the pupil may have dragged it beyond.
+    while (std::abs(target - place(card, axis)) > session.run.animationSpeed && !session.run.stopped) {
+        // The direction is computed in every round, since the pupil may drag the card past the target.
         const double step = place(card, axis) > target ? -0.5 : 0.5;
-        place(card, axis) += session.animationSpeed * step;
-        screen.redrawCard(card);
-        if (session.animationSpeed == 0)
+        place(card, axis) += session.run.animationSpeed * step;
+        mainView.redrawCard(card);
+        if (session.run.animationSpeed == 0)
             desktop.waitForEvents();
         else
             desktop.yield();
     }
-    return !session.animationStopped;
+    return !session.run.stopped;
 }
 
 bool flyOnto(int card, Axis axis, double target)
@@ -36,7 +36,7 @@ bool flyOnto(int card, Axis axis, double target)
     if (!flyAlong(card, axis, target))
         return false;
     place(card, axis) = target;
-    screen.redrawCard(card);
+    mainView.redrawCard(card);
     return true;
 }
 
@@ -46,7 +46,7 @@ void flyToCorner(int card, double left, double top)
     if (!flyOnto(card, Axis::y, top))
         return;
     bringCardToFront(card);
-    session.cardPlaced[card] = true;
+    session.run.cardPlaced[card] = true;
 }
 
 void moveCardTo(int card, int x, int y)
@@ -59,11 +59,11 @@ void moveCardTo(int card, int x, int y)
 void bringCardToFront(int card)
 {
     session.cardStack.bringToFront(card);
-    screen.redrawCard(card);
+    mainView.redrawCard(card);
 }
 
 void sendCardToBack(int card)
 {
     session.cardStack.sendToBack(card);
-    screen.redrawCard(card);
+    mainView.redrawCard(card);
 }

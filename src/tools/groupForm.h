@@ -1,7 +1,7 @@
 // Asks by which field the cards are grouped.
 #pragma once
 
-#include "platform/answerButtons.h"
+#include "controls/answerButtons.h"
 
 class QComboBox;
 
@@ -11,7 +11,7 @@ public:
     groupForm();
     void load() {}
 
-    /// Offers the fields of the open database, the first one picked.
+    /// Offers the fields of the open database and picks the first one.
     void prepare();
 
 private:

@@ -1,49 +1,47 @@
 #include "tools/moveForm.h"
 
-#include "platform/dialogParts.h"
+#include "choices/toolDialog.h"
+#include "controls/dialogParts.h"
+#include "controls/dropDown.h"
 #include "platform/errors.h"
 #include "platform/picture.h"
 #include "tools/arranging.h"
-#include "tools/toolDialog.h"
 
-#include <QComboBox>
 #include <QFrame>
 #include <QHBoxLayout>
-#include <QStyledItemDelegate>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
 constexpr QSize boxSize(32, 20);
-constexpr QPoint previewCorner(24, 60); // of the dialog's own pixels, in which the preview's places are told
+constexpr QPoint previewCorner(24, 60); // in dialog pixels, as are the places of preview()
 constexpr QSize previewSize(280, 192);
 
 } // namespace
 
 moveForm::moveForm()
     : AnswerDialog(new AnswerButtons)
-    , moveCombo(named(new QComboBox, "moveCombo"))
+    , moveCombo(named(new DropDown, "moveCombo"))
     , preview(named(new QFrame, "preview"))
 {
-    setObjectName(QStringLiteral("moveForm"));
-    setWindowTitle(QStringLiteral("Arrange Cards"));
-    moveCombo->setItemDelegate(new QStyledItemDelegate(moveCombo));
-    moveCombo->setAccessibleName(QStringLiteral("Arrange"));
+    setObjectName(u"moveForm"_s);
+    setWindowTitle(u"Arrange Cards"_s);
+    moveCombo->setAccessibleName(u"Arrange"_s);
     moveCombo->setIconSize({32, 32});
     preview->setFixedSize(previewSize);
     for (int i = 0; i < 6; ++i) {
         auto* box = new QFrame(preview);
-        box->setObjectName(QStringLiteral("smallBox%1").arg(i));
+        box->setObjectName(u"smallBox%1"_s.arg(i));
         box->setFixedSize(boxSize);
         smallBox.append(box);
     }
     connect(moveCombo, &QComboBox::currentIndexChanged, this, [this] { guarded([this] { showPreview(); }); });
 
     auto* middle = new QHBoxLayout;
-    middle->addLayout(labelledChoice(QStringLiteral("&Arrange:"), moveCombo));
+    middle->addLayout(labelledChoice(u"&Arrange:"_s, moveCombo));
     middle->addWidget(preview);
-    layOutTool(*this, *answers,
-               {QStringLiteral("Arrange ?"), QStringLiteral("menuArrangeCards"), QStringLiteral("Arranging")},
-               middle);
+    layOutTool(*this, {u"Arrange ?"_s, u"menuArrangeCards"_s}, middle);
 }
 
 void moveForm::prepare()
@@ -52,7 +50,7 @@ void moveForm::prepare()
     moveCombo->clear();
     int number = 0;
     for (const QString& word : arrangements())
-        moveCombo->addItem(QIcon(picturePath(QStringLiteral("layout%1").arg(++number))), word);
+        moveCombo->addItem(QIcon(picturePath(u"layout%1"_s.arg(++number))), word);
     moveCombo->setCurrentIndex(0);
     moveCombo->setFocus();
     showPreview();
@@ -64,5 +62,5 @@ void moveForm::showPreview()
 {
     const auto places = arrangementPreview(moveCombo->currentText());
     for (int i = 0; i < smallBox.size(); ++i)
-        smallBox[i]->move(places[std::size_t(i)].toPoint() - previewCorner);
+        smallBox[i]->move(places[i].toPoint() - previewCorner);
 }

@@ -1,7 +1,7 @@
 // Asks for one of six layouts and shows a small preview of it.
 #pragma once
 
-#include "platform/answerButtons.h"
+#include "controls/answerButtons.h"
 
 class QComboBox;
 

@@ -1,6 +1,6 @@
 #include "tools/pacing.h"
 
-#include "core/screen.h"
+#include "core/mainView.h"
 #include "core/session.h"
 
 #include <iterator>
@@ -13,43 +13,43 @@ constexpr double speeds[] = {0.1, 0.15, 0.2, 0.25, 0.3, 0.5, 1, 5, 10}; // of po
 
 void prepareAnimation()
 {
-    session.animationSpeed = speeds[usualSpeedPosition - 1];
-    session.animationStopped = false;
-    session.speedPosition = usualSpeedPosition;
-    session.runPaused = false;
+    session.run.animationSpeed = speeds[usualSpeedPosition - 1];
+    session.run.stopped = false;
+    session.run.speedPosition = usualSpeedPosition;
+    session.run.paused = false;
 }
 
 void beginRun()
 {
     prepareAnimation();
-    screen.showSpeedWindow();
+    mainView.showSpeedWindow();
 }
 
-void endRun() { screen.unloadSpeedWindow(); }
+void endRun() { mainView.unloadSpeedWindow(); }
 
 void speedChosen(int position)
 {
     if (position >= 1 && position <= int(std::size(speeds)))
-        session.savedSpeed = speeds[position - 1];
-    if (!session.runPaused)
-        session.animationSpeed = session.savedSpeed;
+        session.run.savedSpeed = speeds[position - 1];
+    if (!session.run.paused)
+        session.run.animationSpeed = session.run.savedSpeed;
 }
 
 void pauseRun()
 {
-    session.savedSpeed = session.animationSpeed;
-    session.animationSpeed = 0;
-    session.runPaused = true;
+    session.run.savedSpeed = session.run.animationSpeed;
+    session.run.animationSpeed = 0;
+    session.run.paused = true;
 }
 
 void resumeRun()
 {
-    session.animationSpeed = session.savedSpeed;
-    session.runPaused = false;
+    session.run.animationSpeed = session.run.savedSpeed;
+    session.run.paused = false;
 }
 
 void stopRun()
 {
-    session.animationSpeed = 0;
-    session.animationStopped = true;
+    session.run.animationSpeed = 0;
+    session.run.stopped = true;
 }

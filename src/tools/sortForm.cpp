@@ -1,17 +1,19 @@
 #include "tools/sortForm.h"
 
+#include "choices/fieldChoice.h"
+#include "choices/toolDialog.h"
+#include "controls/dialogParts.h"
 #include "core/session.h"
-#include "platform/dialogParts.h"
 #include "platform/errors.h"
 #include "platform/picture.h"
-#include "tools/fieldChoice.h"
-#include "tools/toolDialog.h"
 
 #include <QComboBox>
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QRadioButton>
 #include <QVBoxLayout>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -32,32 +34,29 @@ QRadioButton* direction(const char* name, const QString& text, const QString& ic
 sortForm::sortForm()
     : AnswerDialog(new AnswerButtons)
     , sortCombo(fieldChoice("sortCombo"))
-    , sortOptUp(
-          direction("sortOpt0", QStringLiteral("Going &Up"), QStringLiteral("up"), QStringLiteral("ABC")))
-    , sortOptDown(
-          direction("sortOpt1", QStringLiteral("Going &Down"), QStringLiteral("down"), QStringLiteral("CBA")))
+    , sortOptUp(direction("sortOpt0", u"Going &Up"_s, u"up"_s, u"ABC"_s))
+    , sortOptDown(direction("sortOpt1", u"Going &Down"_s, u"down"_s, u"CBA"_s))
 {
-    setObjectName(QStringLiteral("sortForm"));
-    setWindowTitle(QStringLiteral("Sort Cards"));
+    setObjectName(u"sortForm"_s);
+    setWindowTitle(u"Sort Cards"_s);
 
     auto* Frame1 = named(new QGroupBox, "Frame1");
-    Frame1->setAccessibleName(QStringLiteral("Direction"));
+    Frame1->setAccessibleName(u"Direction"_s);
     auto* directions = new QVBoxLayout(Frame1);
     directions->addWidget(sortOptUp);
     directions->addWidget(sortOptDown);
 
     auto* middle = new QHBoxLayout;
-    middle->addLayout(labelledChoice(QStringLiteral("&Sort by:"), sortCombo));
+    middle->addLayout(labelledChoice(u"&Sort by:"_s, sortCombo));
     middle->addWidget(Frame1);
 
-    layOutTool(*this, *answers,
-               {QStringLiteral("Sort ?"), QStringLiteral("menuSort"), QStringLiteral("Sorting")}, middle);
+    layOutTool(*this, {u"Sort ?"_s, u"menuSort"_s}, middle);
 }
 
 void sortForm::prepare()
 {
     fillFieldChoice(*sortCombo);
     sortCombo->setFocus();
-    (session.sortDirection == QLatin1String("CBA") ? sortOptDown : sortOptUp)->setChecked(true);
+    (session.sortDirection == "CBA"_L1 ? sortOptDown : sortOptUp)->setChecked(true);
     letTabFindTheChosen({sortOptUp, sortOptDown});
 }

@@ -1,7 +1,7 @@
 // Asks by which field and in which direction the cards are sorted.
 #pragma once
 
-#include "platform/answerButtons.h"
+#include "controls/answerButtons.h"
 
 class QComboBox;
 class QRadioButton;
@@ -12,7 +12,7 @@ public:
     sortForm();
     void load() {}
 
-    /// Offers the fields of the open database. The direction stays that of the last sort.
+    /// Offers the fields of the open database. The direction is that of the last sort.
     void prepare();
 
 private:

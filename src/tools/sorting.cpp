@@ -10,6 +10,8 @@
 #include <algorithm>
 #include <cmath>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 struct Diagonal {
@@ -19,20 +21,21 @@ struct Diagonal {
     double yStep;
 };
 
-/// The line from the template card's corner towards the lower right: cards overlap by half at most.
+/// The diagonal from box(0)'s corner towards the lower right; each card covers at most half of the one
+/// before.
 Diagonal diagonalOfBoard()
 {
     if (session.numCards == 0)
         throw RuntimeError(divisionByZero);
     const CardImage& corner = session.box[0];
     const CardImage& size = session.box[1];
-    const double xStep = std::floor((session.boardWidth - corner.left - size.width) / session.numCards);
-    const double yStep = std::floor((session.boardHeight - corner.top - size.height) / session.numCards);
+    const double xStep = std::floor((session.board.width - corner.left - size.width) / session.numCards);
+    const double yStep = std::floor((session.board.height - corner.top - size.height) / session.numCards);
     return {corner.left, corner.top, std::min(xStep, size.width / 2), std::min(yStep, size.height / 2)};
 }
 
-/// One way of sorting: the key of a card, the value that a search for the next card begins with, and whether
-/// a key beats the best so far. As equality counts, the last of a run of equal keys wins.
+/// One way of sorting: the key of a card, the initial value in the search for the next card, and whether a
+/// key beats the best so far. Equal keys do, so the last of them wins.
 template <class Key>
 struct Order {
     Key (*key)(const QString& value);
@@ -46,7 +49,7 @@ int nextCard(const Order<Key>& order, int field, const Key& seed)
     Key best = seed;
     int selected = 0;
     for (int card = 1; card <= session.numCards; ++card) {
-        if (session.cardPlaced[card])
+        if (session.run.cardPlaced[card])
             continue;
         const Key key = order.key(session.cardValue[card][field]);
         if (order.beats(key, best)) {
@@ -64,11 +67,11 @@ void sortInView(const Order<Key>& order, int field)
         beginRun();
         const Diagonal line = diagonalOfBoard();
         for (int card = 1; card <= session.numCards; ++card)
-            session.cardPlaced[card] = false;
+            session.run.cardPlaced[card] = false;
         const Key seed = order.seed(field);
         for (int k = 1; k <= session.numCards; ++k) {
             const int selected = nextCard(order, field, seed);
-            if (selected != 0) // a card may have changed its value while another one flew
+            if (selected != 0) // 0 when values changed during a flight and no card is left
                 flyToCorner(selected, line.left + line.xStep * (k - 1), line.top + line.yStep * (k - 1));
         }
         endRun();
@@ -124,8 +127,8 @@ void sortNumbersDown(int field) { sortInView(numbersDown, field); }
 void sortByChosenField()
 {
     const int field = session.chosenField;
-    if (session.fieldType[field] == QLatin1String("Abc"))
-        session.sortDirection == QLatin1String("CBA") ? sortTextDown(field) : sortTextUp(field);
+    if (session.fieldType[field] == "Abc"_L1)
+        session.sortDirection == "CBA"_L1 ? sortTextDown(field) : sortTextUp(field);
     else
-        session.sortDirection == QLatin1String("ABC") ? sortNumbersUp(field) : sortNumbersDown(field);
+        session.sortDirection == "ABC"_L1 ? sortNumbersUp(field) : sortNumbersDown(field);
 }

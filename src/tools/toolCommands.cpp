@@ -2,10 +2,10 @@
 
 #include "board/labels.h"
 #include "board/mode.h"
+#include "controls/forms.h"
 #include "core/session.h"
 #include "platform/desktop.h"
 #include "platform/errors.h"
-#include "platform/forms.h"
 #include "tools/arranging.h"
 #include "tools/findForm.h"
 #include "tools/finding.h"
@@ -16,6 +16,8 @@
 #include "tools/sorting.h"
 #include "tools/venn.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// Prepares the tool's dialog and shows it; true when the pupil said OK.
@@ -23,9 +25,7 @@ template <class F>
 bool answered()
 {
     form<F>().prepare();
-    session.dialogResult.clear();
-    showModal(form<F>());
-    return session.dialogResult == QLatin1String("OK");
+    return saysOk(form<F>());
 }
 
 void hideFindForm()
@@ -86,7 +86,7 @@ void findCommand()
 
 void reportFound()
 {
-    desktop.beep();
-    desktop.showMessage(MessageIcon::information, QStringLiteral("Find Results"),
-                        QStringLiteral("Number of cards found: ") + QString::number(session.foundCount));
+    desktop.sound.beep();
+    desktop.boxes.showMessage(MessageIcon::information, u"Find Results"_s,
+                              u"Number of cards found: "_s + QString::number(session.foundCount));
 }

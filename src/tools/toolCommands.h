@@ -6,5 +6,5 @@ void groupCommand();
 void arrangeCommand();
 void findCommand();
 
-/// Tells the number of cards that the last find has found.
+/// Shows a box with the number of cards that the last find found.
 void reportFound();

@@ -1,16 +1,16 @@
 #include "tools/warnForm.h"
 
+#include "controls/dialogParts.h"
 #include "core/session.h"
 #include "platform/desktop.h"
-#include "platform/dialogParts.h"
-#include "platform/errors.h"
-#include "platform/forms.h"
 #include "tools/bin.h"
 
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
 #include <algorithm>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -19,25 +19,17 @@ constexpr int captionGap = 8;    // pixels
 constexpr int captionMargin = 28;
 constexpr int edge = 20;
 
-void answerWith(QPushButton* button, const QString& word)
-{
-    onClick(button, [word] {
-        session.dialogResult = word;
-        form<warnForm>().hide();
-    });
-}
-
 } // namespace
 
 warnForm::warnForm()
-    : AnswerDialog(new AnswerButtons({"YesBut", QStringLiteral("Yes")}, {"NoBut", QStringLiteral("No")}))
+    : AnswerDialog(new AnswerButtons({"YesBut", u"Yes"_s}, {"NoBut", u"No"_s}))
     , ActionPic(named(new QLabel, "ActionPic"))
-    , DiBoxCaption(named(new QLabel(QStringLiteral("Delete this card?")), "subHeading"))
+    , DiBoxCaption(named(new QLabel(u"Delete this card?"_s), "subHeading"))
 {
-    setObjectName(QStringLiteral("warnForm"));
-    setWindowTitle(QStringLiteral("Delete Card"));
+    setObjectName(u"warnForm"_s);
+    setWindowTitle(u"Delete Card"_s);
     DiBoxCaption->setTextFormat(Qt::PlainText);
-    answers->cancel->setDefault(true); // a stray Return spares the card
+    answers->cancel->setDefault(true); // an accidental Return doesn't delete the card
 
     auto* question = new QHBoxLayout;
     question->setSpacing(captionGap);
@@ -53,8 +45,7 @@ warnForm::warnForm()
     column->addLayout(question);
     column->addLayout(buttons);
 
-    answerWith(answers->ok, QStringLiteral("OK"));
-    answerWith(answers->cancel, QStringLiteral("Cancel"));
+    answerByButtons();
 }
 
 void warnForm::askAbout(int card)
@@ -62,14 +53,14 @@ void warnForm::askAbout(int card)
     const CardImage& image = session.box[card];
     ActionPic->setFixedSize(int(image.width), int(image.height));
     ActionPic->setPixmap(QPixmap::fromImage(image.picture));
-    const QString question = QStringLiteral("Delete ") + session.cardValue[card][1] + QStringLiteral(" ?");
-    const int room = desktop.screenSize().width() - 2 * ActionPic->width() - 2 * captionMargin;
+    const QString question = u"Delete "_s + session.cardValue[card][1] + u" ?"_s;
+    const int room = desktop.screen.size().width() - 2 * ActionPic->width() - 2 * captionMargin;
     DiBoxCaption->ensurePolished();
     DiBoxCaption->setText(DiBoxCaption->fontMetrics().elidedText(question, Qt::ElideMiddle, room));
     DiBoxCaption->setAccessibleName(question);
     answers->cancel->setFocus();
     setMinimumWidth(int(leastWidth / session.twipsPerPixelX));
-    layout()->invalidate(); // a caption that was never shown doesn't tell its layout of its growth
+    layout()->invalidate(); // a caption that was never shown doesn't notify the layout of a new size
     layout()->activate();
     adjustSize();
 }
@@ -83,9 +74,8 @@ void checkDropOnBin(int card)
 void confirmDelete(int card)
 {
     const QString cardId = session.cardId[card];
+    const QString recordName = session.recordName[card];
     form<warnForm>().askAbout(card);
-    session.dialogResult.clear();
-    showModal(form<warnForm>());
-    if (session.dialogResult == QLatin1String("OK"))
-        deleteCard(cardId);
+    if (saysOk(form<warnForm>()))
+        deleteCard(cardId, recordName);
 }

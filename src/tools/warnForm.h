@@ -1,7 +1,7 @@
-// Asks whether a card shall be deleted, with the card's face in the question.
+// Asks whether to delete a card, showing the card's face.
 #pragma once
 
-#include "platform/answerButtons.h"
+#include "controls/answerButtons.h"
 
 class QLabel;
 
@@ -11,7 +11,7 @@ public:
     warnForm();
     void load() {}
 
-    /// Shows the card in the question; a long label makes the window wide.
+    /// Shows the card in the question; the window is widened for a long label.
     void askAbout(int card);
 
 private:
@@ -19,7 +19,7 @@ private:
     QLabel* const DiBoxCaption;
 };
 
-/// Asks whether the card that was let go shall be deleted when it lies on the bin, and deletes it after an
-/// OK: the card that the question showed, whatever has become of its number meanwhile.
+/// For a card dropped on the bin: asks, and deletes it after OK. The card shown in the question is deleted
+/// even if its number has changed meanwhile.
 void checkDropOnBin(int card);
 void confirmDelete(int card);

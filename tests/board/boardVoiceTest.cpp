@@ -2,11 +2,13 @@
 
 #include "board/boardWidget.h"
 #include "board/places.h"
-#include "core/screen.h"
+#include "core/mainView.h"
 #include "support/freshStart.h"
 
 #include <QAccessible>
 #include <QApplication>
+
+using namespace Qt::StringLiterals;
 
 using testing::ElementsAre;
 using testing::Pair;
@@ -18,16 +20,16 @@ protected:
     BoardForAssistiveTechnology()
     {
         board.resize(1000, 700);
-        board.connectScreen();
+        mainView.redrawBoard = [this] { board.repaintBoard(); };
+        mainView.redrawCard = [this](int card) { board.repaintCard(card); };
         for (int card = 1; card <= 3; ++card) {
-            session.box[card] = {card * 100.4, 200.6, 80, 60, {}, QStringLiteral("Card %1").arg(card),
-                                 true,         {}};
-            session.cardId[card] = QStringLiteral("CARDAAA%1").arg(card);
+            session.box[card] = {card * 100.4, 200.6, 80, 60, {}, u"Card %1"_s.arg(card), true, {}};
+            session.cardId[card] = u"CARDAAA%1"_s.arg(card);
         }
         session.numCards = 3;
         board.show();
         QCoreApplication::processEvents();
-        screen.redrawBoard();
+        mainView.redrawBoard();
         board.voice.tell = [this](int item, QAccessible::Event news) { told.push_back({item, news}); };
     }
 
@@ -54,7 +56,7 @@ TEST_F(BoardForAssistiveTechnology, IsAListOfItsCardsWithNamesAndPlaces)
 {
     session.box[2].visible = false;
     EXPECT_EQ(list().role(), QAccessible::List);
-    EXPECT_EQ(list().text(QAccessible::Name), QStringLiteral("Board"));
+    EXPECT_EQ(list().text(QAccessible::Name), u"Board"_s);
     EXPECT_EQ(names(), QStringList({"Card 1", "Card 3"}));
     QAccessibleInterface* third = list().child(1);
     EXPECT_EQ(third->role(), QAccessible::ListItem);
@@ -69,17 +71,17 @@ TEST_F(BoardForAssistiveTechnology, TellsWhatComesGoesAndIsRenamed)
 {
     names();
     session.box[2].visible = false;
-    screen.redrawCard(2);
-    session.box[3].tooltip = QStringLiteral("Nanny");
+    mainView.redrawCard(2);
+    session.box[3].tooltip = u"Nanny"_s;
     session.box[2].visible = true;
-    screen.redrawBoard();
+    mainView.redrawBoard();
     EXPECT_THAT(told, ElementsAre(Pair(2, QAccessible::ObjectDestroyed), Pair(2, QAccessible::ObjectCreated),
                                   Pair(3, QAccessible::NameChanged)));
     EXPECT_EQ(names(), QStringList({"Card 1", "Card 2", "Nanny"}));
 
     told.clear();
-    session.box[1].left += 20; // a step of a flight is no news
-    screen.redrawCard(1);
+    session.box[1].left += 20; // a step of a flight sends no notification
+    mainView.redrawCard(1);
     EXPECT_TRUE(told.empty());
 }
 
@@ -95,29 +97,29 @@ TEST_F(BoardForAssistiveTechnology, AnnouncesTheSelectedCard)
     EXPECT_TRUE(list().child(1)->state().focused);
     EXPECT_EQ(list().focusChild(), list().child(1));
 
-    session.SelectBox.visible = false; // as a click on the bare board leaves it
-    screen.redrawBoard();
+    session.board.SelectBox.visible = false; // as after a click on the empty board
+    mainView.redrawBoard();
     EXPECT_FALSE(list().child(1)->state().selected);
-    session.tablePanel.visible = true; // covers the board
-    screen.redrawBoard();
+    session.table.panel.visible = true; // covers the board
+    mainView.redrawBoard();
     EXPECT_EQ(list().childCount(), 0);
 }
 
 TEST_F(BoardForAssistiveTechnology, CardsAreSelectedEditedAndPlayedWithoutAMouse)
 {
     QStringList done;
-    screen.setRefresh = [&](const QString& word) { done.append(word); };
-    screen.openCard = [&](int card) { done.append(QString::number(card)); };
+    mainView.setRefresh = [&](const QString& word) { done.append(word); };
+    mainView.openCard = [&](int card) { done.append(QString::number(card)); };
     EXPECT_EQ(list().child(0)->actionInterface()->actionNames(), QStringList({"select", "edit", "play"}));
     act(0, "select");
     EXPECT_EQ(session.selectedCard, 1);
-    EXPECT_EQ(session.SelectBox.left, session.box[1].left - 2);
+    EXPECT_EQ(session.board.SelectBox.left, session.box[1].left - 2);
     EXPECT_EQ(session.cardStack.fromBelow().back(), 1);
     act(2, "edit");
     EXPECT_EQ(done, QStringList({"Off", "3"}));
 
     session.dbPath = testFolder().chopped(1);
-    QFile sound(testFolder() + QStringLiteral("CARDAAA2.snd"));
+    QFile sound(testFolder() + u"CARDAAA2.snd"_s);
     ASSERT_TRUE(sound.open(QIODevice::WriteOnly));
     act(1, "play");
     EXPECT_EQ(recorded.played.size(), 1);
@@ -126,16 +128,16 @@ TEST_F(BoardForAssistiveTechnology, CardsAreSelectedEditedAndPlayedWithoutAMouse
 TEST_F(BoardForAssistiveTechnology, TheBinTakesCardsAndIsClosedWithoutAMouse)
 {
     int dropped = 0;
-    screen.cardDropped = [&](int card) { dropped = card; };
-    session.BigBin = {{600, 300, 128, 150, true}, false};
-    session.searchTitle = {QStringLiteral("Wings"), 10, 600, 80, 20, true};
-    screen.redrawBoard();
+    mainView.cardDropped = [&](int card) { dropped = card; };
+    session.board.BigBin = {{600, 300, 128, 150, true}, false};
+    session.board.searchTitle = {u"Wings"_s, 10, 600, 80, 20, true};
+    mainView.redrawBoard();
     EXPECT_EQ(names(), QStringList({"Card 1", "Card 2", "Card 3", "Bin", "Wings"}));
     act(1, "delete");
     EXPECT_EQ(dropped, 2);
     EXPECT_EQ(session.box[2].left, 624);
     EXPECT_EQ(session.box[2].top, 345);
     act(3, "close");
-    EXPECT_FALSE(session.BigBin.visible);
-    EXPECT_FALSE(list().child(0)->actionInterface()->actionNames().contains(QStringLiteral("delete")));
+    EXPECT_FALSE(session.board.BigBin.visible);
+    EXPECT_FALSE(list().child(0)->actionInterface()->actionNames().contains(u"delete"_s));
 }

@@ -1,6 +1,6 @@
 #include "board/boardWidget.h"
 
-#include "core/screen.h"
+#include "core/mainView.h"
 #include "support/files.h"
 
 #include <QApplication>
@@ -10,6 +10,8 @@
 #include <QPointingDevice>
 #include <QTest>
 #include <QToolTip>
+
+using namespace Qt::StringLiterals;
 
 using testing::ElementsAre;
 
@@ -22,7 +24,7 @@ QImage plain(Qt::GlobalColor colour)
     return image;
 }
 
-/// Counts a widget's paints and notes what they covered.
+/// Records the regions of a widget's paint events.
 class PaintWatch : public QObject {
 public:
     explicit PaintWatch(QWidget& widget) { widget.installEventFilter(this); }
@@ -40,12 +42,13 @@ protected:
     Board()
     {
         board.resize(1000, 700);
-        board.connectScreen();
-        screen.openCard = [this](int card) { opened.push_back(card); };
-        screen.cardDropped = [this](int card) { dropped.push_back(card); };
-        screen.setRefresh = [this](const QString& word) { refresh.append(word); };
-        screen.showHint = [this](const QString& text) { hints.append(text); };
-        screen.hideHints = [this] { ++hidden; };
+        mainView.redrawBoard = [this] { board.repaintBoard(); };
+        mainView.redrawCard = [this](int card) { board.repaintCard(card); };
+        mainView.openCard = [this](int card) { opened.push_back(card); };
+        mainView.cardDropped = [this](int card) { dropped.push_back(card); };
+        mainView.setRefresh = [this](const QString& word) { refresh.append(word); };
+        mainView.showHint = [this](const QString& text) { hints.append(text); };
+        mainView.hideHints = [this] { ++hidden; };
         lay(1, {100, 100}, Qt::red);
         lay(2, {300, 200}, Qt::green);
         lay(3, {140, 130}, Qt::blue); // over a corner of card 1
@@ -55,9 +58,8 @@ protected:
 
     void lay(int card, QPointF at, Qt::GlobalColor colour)
     {
-        session.box[card] = {at.x(), at.y(), 80, 60, plain(colour), QStringLiteral("Card <%1>").arg(card),
-                             true,   {}};
-        session.cardId[card] = QStringLiteral("CARDAAA%1").arg(card);
+        session.box[card] = {at.x(), at.y(), 80, 60, plain(colour), u"Card <%1>"_s.arg(card), true, {}};
+        session.cardId[card] = u"CARDAAA%1"_s.arg(card);
         session.numCards = std::max(session.numCards, card);
     }
 
@@ -107,10 +109,10 @@ private:
 
 TEST_F(Board, IsPaintedFromTheBackgroundUpToTheFrame)
 {
-    session.boardColour = QStringLiteral("65535"); // yellow
+    session.board.colour = u"65535"_s; // yellow
     session.backgroundImage = plain(Qt::cyan);
-    session.borderColour = QStringLiteral("255");
-    session.SelectBox = {298, 198, 84, 64, true};
+    session.board.borderColour = u"255"_s;
+    session.board.SelectBox = {298, 198, 84, 64, true};
     const struct {
         int x, y;
         QColor colour;
@@ -126,11 +128,11 @@ TEST_F(Board, IsPaintedFromTheBackgroundUpToTheFrame)
 
 TEST_F(Board, ShowsCaptionsAndCirclesUnderTheCards)
 {
-    session.boardColour = QStringLiteral("16777215");
+    session.board.colour = u"16777215"_s;
     const QImage before = board.grab().toImage();
-    session.VennLeftCircle = {500, 300, 200, 200, true};
-    session.searchTitle = {QStringLiteral("Wings"), 600, 600, 80, 20, true};
-    session.VennBox = {290, 190, 100, 100, true}; // behind card 2
+    session.board.VennLeftCircle = {500, 300, 200, 200, true};
+    session.board.searchTitle = {u"Wings"_s, 600, 600, 80, 20, true};
+    session.board.VennBox = {290, 190, 100, 100, true}; // behind card 2
     const QImage after = board.grab().toImage();
     EXPECT_NE(after.pixel(501, 400), before.pixel(501, 400)) << "the circle's line";
     EXPECT_EQ(after.pixel(502, 302), before.pixel(502, 302)) << "outside the circle";
@@ -139,23 +141,22 @@ TEST_F(Board, ShowsCaptionsAndCirclesUnderTheCards)
     EXPECT_EQ(after.copy(300, 200, 80, 60), before.copy(300, 200, 80, 60));
 }
 
-TEST_F(Board, PaintsOnceARoundWhereTheCardWasAndIs)
+TEST_F(Board, PaintsSeldomerThanCardsMoveAndWhereTheyWereAndAre)
 {
     const PaintWatch watch(board);
-    for (int round = 0; round < 3; ++round) {
-        session.box[2].left += 0.4; // stays on the same pixel at first
-        screen.redrawCard(2);
-        screen.redrawCard(2);
+    constexpr int rounds = 1000;
+    for (int round = 0; round < rounds; ++round) {
+        session.box[2].left += 0.4;
+        mainView.redrawCard(2);
         QCoreApplication::processEvents();
-        ASSERT_EQ(watch.paints.size(), std::size_t(round + 1));
     }
-    EXPECT_EQ(watch.paints[0], QRegion(300, 200, 80, 60)) << "a round paints though no pixel changed";
-    EXPECT_EQ(watch.paints[1], QRegion(300, 200, 81, 60));
-
-    session.box[2].left = 700;
-    screen.redrawCard(2);
-    QCoreApplication::processEvents();
-    EXPECT_EQ(watch.paints.back(), QRegion(301, 200, 80, 60) | QRegion(700, 200, 80, 60));
+    EXPECT_LT(watch.paints.size(), rounds / 2);
+    EXPECT_EQ(watch.paints[0], QRegion(300, 200, 80, 60));
+    const QRect last(700, 200, 80, 60);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return watch.paints.back().contains(last); }));
+    session.box[2].left = 300;
+    mainView.redrawCard(2);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return watch.paints.back() == (QRegion(300, 200, 80, 60) | last); }));
 }
 
 TEST_F(Board, PressingACardSelectsAndFramesIt)
@@ -163,13 +164,13 @@ TEST_F(Board, PressingACardSelectsAndFramesIt)
     press({310, 215});
     EXPECT_EQ(session.selectedCard, 2);
     EXPECT_EQ(session.box[2].cursor, CardCursor::handClosed);
-    EXPECT_EQ(session.dragOffsetX, 150) << "twips";
-    EXPECT_EQ(session.dragOffsetY, 225);
-    EXPECT_TRUE(session.SelectBox.visible);
-    EXPECT_EQ(session.SelectBox.left, 298);
+    EXPECT_EQ(session.board.dragOffsetX, 150) << "twips";
+    EXPECT_EQ(session.board.dragOffsetY, 225);
+    EXPECT_TRUE(session.board.SelectBox.visible);
+    EXPECT_EQ(session.board.SelectBox.left, 298);
     release({310, 215});
     EXPECT_EQ(session.box[2].cursor, CardCursor::handOpen);
-    EXPECT_EQ(session.cardValue[2][0], QStringLiteral("03000200")) << "without any movement too";
+    EXPECT_EQ(session.cardValue[2][0], u"03000200"_s) << "without any movement too";
     EXPECT_THAT(dropped, ElementsAre(2));
     EXPECT_TRUE(recorded.played.isEmpty());
 }
@@ -179,9 +180,9 @@ TEST_F(Board, ADragWithAnyButtonMovesTheCardWithoutBoundAndItsFrameWithIt)
     drag({310, 215}, {980, 5}, Qt::MiddleButton);
     EXPECT_EQ(session.box[2].left, 970);
     EXPECT_EQ(session.box[2].top, -10);
-    EXPECT_EQ(session.SelectBox.left, 968);
-    EXPECT_EQ(session.SelectBox.top, -12);
-    EXPECT_EQ(session.cardValue[2][0], QStringLiteral("0970-0010"));
+    EXPECT_EQ(session.board.SelectBox.left, 968);
+    EXPECT_EQ(session.board.SelectBox.top, -12);
+    EXPECT_EQ(session.cardValue[2][0], u"0970-0010"_s);
     EXPECT_EQ(session.box[1].left, 100);
 }
 
@@ -198,39 +199,38 @@ TEST_F(Board, ACardIsRaisedByMerelyPassingOverIt)
 
 TEST_F(Board, ADoubleClickTurnsTheRefreshOffAndOpensTheEditor)
 {
-    screen.openCard = [this](int card) {
-        EXPECT_EQ(refresh, QStringList(QStringLiteral("Off")));
+    mainView.openCard = [this](int card) {
+        EXPECT_EQ(refresh, QStringList(u"Off"_s));
         opened.push_back(card);
-        throw RuntimeError(fileNotFound); // must not get into the window system
+        throw RuntimeError(fileNotFound); // must not propagate into Qt
     };
     QTest::mouseDClick(&board, Qt::LeftButton, {}, {310, 215});
     EXPECT_THAT(opened, ElementsAre(2));
-    EXPECT_EQ(recorded.messages, QStringList(QStringLiteral("Error|File not found")));
+    EXPECT_EQ(recorded.messages, QStringList(u"Error|File not found"_s));
     QTest::mouseDClick(&board, Qt::LeftButton, {}, {600, 600});
     EXPECT_THAT(opened, ElementsAre(2));
 }
 
 TEST_F(Board, AClickOnTheBareBoardClosesTheMenuAndHidesTheFrame)
 {
-    session.openMenuIndex = 2;
-    session.MenuHolder.visible = session.SelectBox.visible = true;
+    session.menu.openMenuIndex = 2;
+    session.menu.MenuHolder.visible = session.board.SelectBox.visible = true;
     session.selectedCard = 3;
     QTest::mouseClick(&board, Qt::LeftButton, {}, {600, 600});
-    EXPECT_EQ(session.openMenuIndex, -1);
-    EXPECT_FALSE(session.MenuHolder.visible || session.SelectBox.visible);
+    EXPECT_EQ(session.menu.openMenuIndex, -1);
+    EXPECT_FALSE(session.menu.MenuHolder.visible || session.board.SelectBox.visible);
     EXPECT_EQ(session.selectedCard, 3);
 }
 
 TEST_F(Board, TheBinIsDraggedExplainsItselfAndClosesByItsLid)
 {
-    session.BigBin = {{600, 300, 128, 150, true}, false};
+    session.board.BigBin = {{600, 300, 128, 150, true}, false};
     move({660, 430});
-    EXPECT_EQ(hints,
-              QStringList(QStringLiteral("Click and drag the bin anywhere on the screen , Click on the "
-                                         "lid to close it")));
+    EXPECT_EQ(hints, QStringList(u"Click and drag the bin anywhere on the screen , Click on the "
+                                 "lid to close it"_s));
     drag({660, 430}, {260, 380});
-    EXPECT_EQ(session.BigBin.left, 200);
-    EXPECT_EQ(session.BigBin.top, 250);
+    EXPECT_EQ(session.board.BigBin.left, 200);
+    EXPECT_EQ(session.board.BigBin.top, 250);
     EXPECT_TRUE(dropped.empty());
 
     press({320, 240}); // card 2 lies over the bin
@@ -239,17 +239,17 @@ TEST_F(Board, TheBinIsDraggedExplainsItselfAndClosesByItsLid)
 
     hidden = 0;
     press({250, 260});
-    EXPECT_TRUE(session.BigBin.lidPressed);
-    EXPECT_TRUE(session.BigBin.visible);
+    EXPECT_TRUE(session.board.BigBin.lidPressed);
+    EXPECT_TRUE(session.board.BigBin.visible);
     release({250, 260});
-    EXPECT_FALSE(session.BigBin.visible || session.BigBin.lidPressed);
+    EXPECT_FALSE(session.board.BigBin.visible || session.board.BigBin.lidPressed);
     EXPECT_GT(hidden, 0);
 }
 
 TEST_F(Board, ACardWithASoundShowsItAtThePointerAskingTheFolderOnceAPass)
 {
     session.dbPath = testFolder().chopped(1);
-    const QString sound = inTestFolder(QStringLiteral("CARDAAA2.snd"));
+    const QString sound = inTestFolder(u"CARDAAA2.snd"_s);
     putFile(sound, "RIFF");
     const auto cursorBecomes = [](CardCursor cursor) {
         return QTest::qWaitFor([cursor] { return session.box[2].cursor == cursor; });
@@ -269,7 +269,7 @@ TEST_F(Board, ACardWithASoundShowsItAtThePointerAskingTheFolderOnceAPass)
 
 TEST_F(Board, TellsTheLabelOfTheTopmostCardAsPlainText)
 {
-    EXPECT_EQ(tipAt({150, 140}), QStringLiteral("<p>Card &lt;3&gt;</p>"));
+    EXPECT_EQ(tipAt({150, 140}), u"<p>Card &lt;3&gt;</p>"_s);
     for (const QPoint& bare : {QPoint(310, 215), QPoint(600, 600)}) {
         session.box[2].tooltip.clear();
         tipAt(bare);
@@ -280,7 +280,7 @@ TEST_F(Board, TellsTheLabelOfTheTopmostCardAsPlainText)
 TEST_F(Board, ADragEndsWhenAReloadGivesTheNumberToAnotherCard)
 {
     press({310, 215});
-    session.cardId[2] = QStringLiteral("OTHERONE");
+    session.cardId[2] = u"OTHERONE"_s;
     move({600, 600}, Qt::LeftButton);
     EXPECT_EQ(session.box[2].left, 300);
 }
@@ -290,7 +290,7 @@ TEST_F(Board, AFingerDragsHearsAndOpensCards)
     const std::unique_ptr<QPointingDevice> screenDevice(QTest::createTouchDevice());
     auto touch = [&] { return QTest::touchEvent(&board, screenDevice.get()); };
     const int interval = QApplication::doubleClickInterval();
-    QApplication::setDoubleClickInterval(0); // whatever was pressed before is not the first of two taps
+    QApplication::setDoubleClickInterval(0); // the next press must not count as a double click
     touch().press(0, QPoint(310, 215), &board);
     touch().move(0, QPoint(330, 225), &board);
     touch().move(0, QPoint(510, 415), &board);
@@ -299,7 +299,7 @@ TEST_F(Board, AFingerDragsHearsAndOpensCards)
     EXPECT_EQ(session.box[2].top, 400);
     EXPECT_THAT(dropped, ElementsAre(2));
 
-    putFile(inTestFolder(QStringLiteral("CARDAAA2.snd")), "sound");
+    putFile(inTestFolder(u"CARDAAA2.snd"_s), "sound");
     session.dbPath = testFolder();
     touch().press(0, QPoint(510, 415), &board);
     EXPECT_TRUE(QTest::qWaitFor([] { return !recorded.played.isEmpty(); })) << "the finger rests";

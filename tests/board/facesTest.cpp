@@ -4,6 +4,8 @@
 #include "store/cardFiles.h"
 #include "support/freshStart.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 bool isNear(QRgb one, QRgb other)
@@ -40,8 +42,8 @@ protected:
     {
         session.numCards = 1;
         session.cardSize = 1;
-        session.cardValue[1][1] = QStringLiteral("Ina");
-        session.ColText = QStringLiteral("255");
+        session.cardValue[1][1] = u"Ina"_s;
+        session.options.ColText = u"255"_s;
     }
     const QImage& face() const { return session.box[1].picture; }
 };
@@ -55,8 +57,8 @@ TEST_F(Faces, HaveTheSurfacesMeasuresInAFreshSessionAndNotTheCardSizes)
     EXPECT_EQ(face().size(), QSize(82, 62));
     EXPECT_EQ(session.box[1].width, 82);
     EXPECT_EQ(session.box[1].height, 62);
-    EXPECT_EQ(session.box[1].tooltip, QStringLiteral("Ina"));
-    EXPECT_EQ(session.shrinkdummy.image, face());
+    EXPECT_EQ(session.box[1].tooltip, u"Ina"_s);
+    EXPECT_EQ(session.editor.shrinkdummy.image, face());
 }
 
 TEST_F(Faces, StretchThePictureOverTheWholeCard)
@@ -67,7 +69,7 @@ TEST_F(Faces, StretchThePictureOverTheWholeCard)
         for (int x = 0; x < 159; ++x)
             picture.setPixel(x, y, blue);
     }
-    session.Picture1.image = picture;
+    session.editor.Picture1.image = picture;
     drawCardFace(1);
     EXPECT_EQ(face().pixel(0, 0), QColor(Qt::yellow).rgb());
     EXPECT_EQ(face().pixel(81, 61), blue);
@@ -77,7 +79,7 @@ TEST_F(Faces, StretchThePictureOverTheWholeCard)
 TEST_F(Faces, ShowASmallPictureUnscaledInTheCornerOfAWhiteOne)
 {
     session.cardValue[1][1].clear();
-    session.Picture1.image = plain(QSize(80, 60), Qt::blue); // half of the picture box
+    session.editor.Picture1.image = plain(QSize(80, 60), Qt::blue); // half of the picture box
     drawCardFace(1);
     EXPECT_EQ(face().pixel(2, 2), blue);
     EXPECT_EQ(face().pixel(60, 45), white);
@@ -86,7 +88,7 @@ TEST_F(Faces, ShowASmallPictureUnscaledInTheCornerOfAWhiteOne)
 
 TEST_F(Faces, PrintTheLabelInItsColourOverABlackShadow)
 {
-    session.Picture1.image = plain(QSize(159, 120), Qt::white);
+    session.editor.Picture1.image = plain(QSize(159, 120), Qt::white);
     drawCardFace(1);
     const QRect label = extentOf(face(), red);
     const QRect shadow = extentOf(face(), black);
@@ -95,7 +97,7 @@ TEST_F(Faces, PrintTheLabelInItsColourOverABlackShadow)
     EXPECT_NEAR(shadow.right(), label.right() + 1, 1);
     EXPECT_EQ(shadow.bottom(), label.bottom() + 1);
 
-    session.cardValue[1][1] = QString(40, QLatin1Char('W'));
+    session.cardValue[1][1] = QString(40, u'W');
     drawCardFace(1);
     EXPECT_GT(extentOf(face(), red).right(), 75) << "a long label runs to the card's edge";
     EXPECT_EQ(session.box[1].tooltip.size(), 40);
@@ -104,7 +106,7 @@ TEST_F(Faces, PrintTheLabelInItsColourOverABlackShadow)
 TEST_F(Faces, OfStripsAreTheLabelAloneInBlack)
 {
     session.cardSize = 2;
-    session.Picture1.image = plain(QSize(159, 120), Qt::red);
+    session.editor.Picture1.image = plain(QSize(159, 120), Qt::red);
     drawCardFace(1);
     EXPECT_EQ(face().pixel(0, 0), blue) << "the point in the corner";
     EXPECT_TRUE(extentOf(face(), red).isEmpty());
@@ -114,30 +116,35 @@ TEST_F(Faces, OfStripsAreTheLabelAloneInBlack)
 
 TEST_F(Faces, AreAsSharpAsTheScreen)
 {
-    session.Picture1.image = plain(QSize(159, 120), Qt::white);
+    session.editor.Picture1.image = plain(QSize(159, 120), Qt::white);
     drawCardFace(1);
     const QRect single = extentOf(face(), red);
-    desktop.pixelRatio = [] { return 2.0; };
+    desktop.screen.pixelRatio = [] { return 2.0; };
     drawCardFace(1);
     EXPECT_EQ(face().size(), QSize(164, 124));
     EXPECT_EQ(face().devicePixelRatio(), 2);
     EXPECT_EQ(session.box[1].width, 82);
     EXPECT_NEAR(extentOf(face(), red).height(), 2 * single.height(), 2);
+
+    const QImage onPaper =
+        cardFace(plain(QSize(159, 120), Qt::white), u"Ina"_s, {{82, 62}, 6, false, Qt::red});
+    EXPECT_EQ(onPaper.size(), QSize(492, 372));
+    EXPECT_NEAR(extentOf(onPaper, red).height(), 6 * single.height(), 6);
 }
 
 TEST_F(Faces, ResizingGivesAllCardsTheMeasuresOfTheNewSizeAndDrawsThemFromTheirFiles)
 {
     session.dbPath = testFolder().chopped(1);
     session.numCards = 2;
-    session.cardId[1] = QStringLiteral("AAAAAAAA");
-    session.cardId[2] = QStringLiteral("BBBBBBBB");
-    plain(QSize(159, 120), Qt::red).save(testFolder() + QStringLiteral("AAAAAAAA.bmp"));
-    plain(QSize(159, 120), Qt::blue).save(testFolder() + QStringLiteral("BBBBBBBB.bmp"));
+    session.cardId[1] = u"AAAAAAAA"_s;
+    session.cardId[2] = u"BBBBBBBB"_s;
+    plain(QSize(159, 120), Qt::red).save(testFolder() + u"AAAAAAAA.bmp"_s);
+    plain(QSize(159, 120), Qt::blue).save(testFolder() + u"BBBBBBBB.bmp"_s);
     const QSize sizes[] = {{40, 30}, {80, 60}, {80, 24}};
     for (const qint16 size : {0, 1, 2}) {
         session.cardSize = size;
         resizeAllCards();
-        EXPECT_EQ(QSize(session.shrinkdummy.width, session.shrinkdummy.height), sizes[size]);
+        EXPECT_EQ(QSize(session.editor.shrinkdummy.width, session.editor.shrinkdummy.height), sizes[size]);
         for (const int card : {0, 1, 2}) {
             EXPECT_EQ(session.box[card].width, sizes[size].width());
             EXPECT_EQ(session.box[card].height, sizes[size].height());

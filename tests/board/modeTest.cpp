@@ -1,51 +1,56 @@
 #include "board/mode.h"
 
-#include "core/screen.h"
+#include "core/mainView.h"
 #include "core/session.h"
 #include "support/freshStart.h"
+
+using namespace Qt::StringLiterals;
 
 using Mode = Fresh;
 
 TEST_F(Mode, OfCardsHidesTableGraphAndCaptionsAndGivesTheBoardItsColour)
 {
-    session.tablePanel.visible = session.editBox.visible = session.MSChart.visible = true;
-    session.VennBox.visible = session.VennLeftCircle.visible = session.VennRightCircle.visible = true;
-    session.searchTitle.visible = session.otherTitle.visible = true;
-    session.GroupLabel[12].visible = true;
-    session.GroupLabel[12].text = QStringLiteral("cats");
-    session.boardColour = QStringLiteral("0");
-    session.BCol = QStringLiteral("255");
-    session.btnTable.pressed = true;
+    session.table.panel.visible = session.table.editBox.visible = session.window.MSChart.visible = true;
+    session.board.VennBox.visible = session.board.VennLeftCircle.visible =
+        session.board.VennRightCircle.visible = true;
+    session.board.searchTitle.visible = session.board.otherTitle.visible = true;
+    session.board.groupTitle[12].visible = true;
+    session.board.groupTitle[12].text = u"cats"_s;
+    session.board.colour = u"0"_s;
+    session.options.BCol = u"255"_s;
+    session.window.btnTable.pressed = true;
 
     showCardMode();
 
-    EXPECT_TRUE(session.btnCards.pressed);
-    EXPECT_FALSE(session.btnTable.pressed);
-    EXPECT_FALSE(session.tablePanel.visible || session.editBox.visible || session.MSChart.visible);
-    EXPECT_FALSE(session.VennBox.visible || session.VennLeftCircle.visible ||
-                 session.VennRightCircle.visible);
-    EXPECT_FALSE(session.searchTitle.visible || session.otherTitle.visible || session.GroupLabel[12].visible);
-    EXPECT_EQ(session.GroupLabel[12].text, QStringLiteral("Group Label"));
-    EXPECT_EQ(session.boardColour, QStringLiteral("255"));
+    EXPECT_TRUE(session.window.btnCards.pressed);
+    EXPECT_FALSE(session.window.btnTable.pressed);
+    EXPECT_FALSE(session.table.panel.visible || session.table.editBox.visible ||
+                 session.window.MSChart.visible);
+    EXPECT_FALSE(session.board.VennBox.visible || session.board.VennLeftCircle.visible ||
+                 session.board.VennRightCircle.visible);
+    EXPECT_FALSE(session.board.searchTitle.visible || session.board.otherTitle.visible ||
+                 session.board.groupTitle[12].visible);
+    EXPECT_EQ(session.board.groupTitle[12].text, u"Group Label"_s);
+    EXPECT_EQ(session.board.colour, u"255"_s);
 }
 
 TEST_F(Mode, OfTheTableFillsItAndHidesTheGraph)
 {
     int filled = 0;
-    screen.showTable = [&] {
+    mainView.showTable = [&] {
         ++filled;
-        session.tablePanel.visible = true;
+        session.table.panel.visible = true;
     };
-    session.MSChart.visible = true;
-    setMode(QStringLiteral("table"));
+    session.window.MSChart.visible = true;
+    setMode(u"table"_s);
     EXPECT_EQ(filled, 1);
-    EXPECT_TRUE(session.tablePanel.visible);
-    EXPECT_FALSE(session.MSChart.visible);
+    EXPECT_TRUE(session.table.panel.visible);
+    EXPECT_FALSE(session.window.MSChart.visible);
 }
 
 TEST_F(Mode, ShowsAnErrorAndStopsThere)
 {
-    screen.showTable = [] { throw RuntimeError(outOfRange); };
-    setMode(QStringLiteral("table"));
-    EXPECT_EQ(recorded.messages, QStringList(QStringLiteral("Error|Subscript out of range")));
+    mainView.showTable = [] { throw RuntimeError(outOfRange); };
+    setMode(u"table"_s);
+    EXPECT_EQ(recorded.messages, QStringList(u"Error|Subscript out of range"_s));
 }

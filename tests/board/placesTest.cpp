@@ -1,6 +1,6 @@
 #include "board/places.h"
 
-#include "core/screen.h"
+#include "core/mainView.h"
 #include "core/session.h"
 #include "support/freshStart.h"
 
@@ -24,7 +24,7 @@ TEST_F(Places, AreWrittenAndReadInFourDigitHalves)
         double leftAgain, topAgain;
     } cases[] = {
         {123, 85, "01230085", 123, 85},       {0, 0, "00000000", 0, 0}, {12.9, 7.2, "00120007", 12, 7},
-        {-12, 85, "-00120085", -1, 20085}, // the fixed width is broken, and read back wrongly
+        {-12, 85, "-00120085", -1, 20085}, // wider than the fixed width, so read back wrongly
         {12345, 6, "123450006", 1234, 50006},
     };
     for (const auto& c : cases) {
@@ -43,7 +43,7 @@ TEST_F(Places, AreWrittenAndReadInFourDigitHalves)
 
 TEST_F(Places, AtRandomLieBelowTheMenuAndTakeTheFirstFreeOne)
 {
-    cardAt(1, 40, 100); // where the first draw puts card 2
+    cardAt(1, 40, 100); // where the first attempt puts card 2
     cardAt(2, 0, 0);
     recorded.randoms = {0, 0, 0.5, 0.25};
     placeCardAtRandom(2);
@@ -54,8 +54,8 @@ TEST_F(Places, AtRandomLieBelowTheMenuAndTakeTheFirstFreeOne)
 
 TEST_F(Places, AtRandomStandAfterTwentyTriesThoughTheyOverlap)
 {
-    session.boardWidth = 200; // every draw gives a left of 40
-    session.boardHeight = 190;
+    session.board.width = 200; // every attempt gives a left of 40
+    session.board.height = 190;
     cardAt(1, 40, 100);
     cardAt(2, 0, 0);
     recorded.randoms.assign(44, 0.0);

@@ -2,6 +2,8 @@
 
 #include "support/freshStart.h"
 
+using namespace Qt::StringLiterals;
+
 using testing::ElementsAre;
 
 using SessionState = Fresh;
@@ -9,9 +11,9 @@ using SessionState = Fresh;
 TEST_F(SessionState, ResettingTheCardTableLeavesTheCount)
 {
     session.numCards = 7;
-    session.cardValue[7][0] = QStringLiteral("00100020");
-    session.cardValue[99][12] = QStringLiteral("tail");
-    session.cardId[7] = QStringLiteral("ABCDEFGH");
+    session.cardValue[7][0] = u"00100020"_s;
+    session.cardValue[99][12] = u"tail"_s;
+    session.cardId[7] = u"ABCDEFGH"_s;
     session.box[7].visible = true;
     session.cardWidth = 40;
     session.cardHeight = 30;

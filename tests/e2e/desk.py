@@ -17,11 +17,11 @@ PATIENCE = 30  # seconds until a wait counts as failed; a loaded machine may nee
 
 
 class Failed(Exception):
-    """Something that the tour needs did not come or did not work."""
+    """Something that the tour needs did not appear or did not work."""
 
 
 def wait_until(condition, what, timeout=PATIENCE):
-    """The first true answer of `condition`, asked again and again; Failed says `what` when none comes."""
+    """Polls `condition` and returns its first true result; raises Failed with `what` when there is none."""
     end = time.monotonic() + timeout
     while True:
         answer = condition()
@@ -33,9 +33,11 @@ def wait_until(condition, what, timeout=PATIENCE):
 
 
 class Desk:
-    """The running desktop. `folder` is private and goes with it; `environment` is that of a program started on it."""
+    """The running desktop, X or Wayland. `folder` is private and removed with it; `environment`
+    is for programs started on it."""
 
-    def __init__(self):
+    def __init__(self, wayland=False):
+        self._wayland = wayland
         self.folder = pathlib.Path(tempfile.mkdtemp(prefix="tallymoor-tour-"))
         self._processes = []
         try:
@@ -68,15 +70,29 @@ class Desk:
         number = self._told_number("Xvfb", "-displayfd", "{}", "-screen", "0", f"{size}x24", "-nolisten", "tcp", "-noreset")
         self.environment["DISPLAY"] = f":{number}"
         self.run("setxkbmap", "de")  # the one map on which "ä" and "€" can be typed
+        if self._wayland:
+            self._start_wayland()
+            return
         self.start("openbox", "--sm-disable")
         wait_until(lambda: "window id" in self.run("xprop", "-root", "_NET_SUPPORTING_WM_CHECK"), "the window manager")
+
+    def _start_wayland(self):
+        """A Wayland desktop in a window that nearly fills the display: in one that fills it the mouse stands still.
+        There is no window manager, which would move that window. Programs start on it from now on."""
+        settings = self.folder / "weston.ini"
+        settings.write_text("[shell]\npanel-position=none\nlocking=false\nanimation=none\nstartup-animation=none\n"
+                            "[input-method]\npath=\n")
+        self.start("weston", "--backend=x11-backend.so", "--use-pixman", f"--width={SCREEN[0] - 16}",
+                   f"--height={SCREEN[1] - 16}", "--socket=tour", "--idle-time=0", f"--config={settings}")
+        wait_until((self.folder / "run" / "tour").exists, "the Wayland desktop")
+        self.environment |= {"WAYLAND_DISPLAY": "tour", "QT_QPA_PLATFORM": "wayland"}
 
     def _start_bus(self):
         self.environment["DBUS_SESSION_BUS_ADDRESS"] = self._told_number(
             "dbus-daemon", "--session", "--nofork", "--nopidfile", "--print-address={}")
 
     def _start_sound(self):
-        """A speaker that can be heard at its monitor, and a microphone that hears what is played to `micfeed`."""
+        """A speaker whose monitor can be recorded, and a microphone that records what is played to `micfeed`."""
         modules = (f"module-native-protocol-unix socket={self.folder / 'sound'} auth-anonymous=1",
                    "module-null-sink sink_name=speaker norewinds=1",
                    "module-null-sink sink_name=micfeed norewinds=1",
@@ -88,8 +104,8 @@ class Desk:
         wait_until(lambda: "speaker" in self.run("pactl", "list", "short", "sinks", check=False), "the sound server")
 
     def start(self, *command, environment=None, log=None, **more):
-        """Starts a process that ends with the desk at the latest. What it says goes to the file `log`, or a log of its
-        own name."""
+        """Starts a process that ends with the desk at the latest. Its output goes to the file `log`, or to a log named
+        after it."""
         with open(log or self.folder / f"{pathlib.Path(command[0]).name}.log", "ab") as output:
             process = subprocess.Popen(("setpriv", "--pdeathsig", "TERM", *command), env=environment or self.environment,
                                        cwd=self.folder / "home", stdin=subprocess.DEVNULL, stdout=output, stderr=output,
@@ -98,7 +114,7 @@ class Desk:
         return process
 
     def _told_number(self, *command):
-        """Starts a process that writes a line to the file descriptor that stands for {}, and gives that line."""
+        """Starts a process that writes a line to the file descriptor in place of {}, and returns that line."""
         reading, writing = os.pipe()
         self.start(*(part.format(writing) if part.endswith("{}") else part for part in command), pass_fds=(writing,))
         os.close(writing)
@@ -109,7 +125,7 @@ class Desk:
         return line
 
     def run(self, *command, check=True):
-        """What a short command says. A failing one raises, with what it said, unless check is False."""
+        """The output of a short command. Raises with the output if it fails, unless check is False."""
         result = subprocess.run(command, env=self.environment, stdin=subprocess.DEVNULL, stdout=subprocess.PIPE,
                                 stderr=subprocess.STDOUT, text=True, timeout=PATIENCE)
         if check and result.returncode:
@@ -155,12 +171,12 @@ class Ear:
         self._process.wait()
 
     def loudness(self):
-        """The root mean square of all that was heard so far and is not silence: 0 for silence, 1 for the loudest tone."""
+        """The root mean square of everything recorded so far except silence: 0 for silence, 1 for the loudest tone."""
         data = self._file.read_bytes()
         samples = [s for s in array.array("h", data[:len(data) // 2 * 2]) if s]
         return math.sqrt(sum(s * s for s in samples) / len(samples)) / 32768 if samples else 0.0
 
     def seconds(self):
-        """For how long something was heard."""
+        """The duration of all sound recorded so far."""
         data = self._file.read_bytes()
         return sum(1 for s in array.array("h", data[:len(data) // 2 * 2]) if abs(s) > 32) / self.RATE

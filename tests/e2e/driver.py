@@ -1,4 +1,4 @@
-"""Drives the real program as a pupil does: on a display, with mouse and keys, with sound and files.
+"""Drives the real program like a pupil: on a display, with mouse and keys, with sound and files.
 
 A tour is a short script:
 
@@ -27,25 +27,30 @@ from settings import Settings  # noqa: E402
 
 
 class Tour:
-    """A copy of the program with the sample databases, on a desk of its own. `program` is the folder of the copy;
-    `clicks` counts what the mouse has done: clicks, a double one as two, and drags."""
+    """A copy of the program with the sample databases, on its own desk. `program` is the folder of the copy;
+    `clicks` counts mouse actions: clicks, a double click as two, and drags."""
 
-    def __init__(self, name):
+    HARMLESS = re.compile(r"^$")  # what the program may print
+    expected_ends = (0,)  # exit codes of copies that have ended
+
+    def __init__(self, name, wayland=False):
         options = argparse.ArgumentParser(description=f"The tour {name}.")
         options.add_argument("--program", type=pathlib.Path, required=True, help="folder of the built program")
         options.add_argument("--samples", type=pathlib.Path, required=True, help="folder of the built sample databases")
         options.add_argument("--pictures", type=pathlib.Path, required=True, help="folder for the tours' pictures")
         chosen = options.parse_args()
         self.pictures = chosen.pictures.resolve() / name
+        self._wayland = wayland
         shutil.rmtree(self.pictures, ignore_errors=True)
         self._source, self._samples = chosen.program.resolve(), chosen.samples.resolve()
 
     def __enter__(self):
-        self.desk = Desk()
+        self.desk = Desk(self._wayland)
         reader.connect(self.desk.environment)
         self.program = self.desk.folder / "Tallymoor"
         self.settings = Settings(self.program)
         self._process = None
+        self._copies = []  # (process, its log) of every program that was started
         self._pictures_taken = 0
         self.clicks = 0
         self._copy_program()
@@ -53,14 +58,19 @@ class Tour:
 
     def __exit__(self, kind, problem, trace):
         try:
+            if problem is None:
+                self._check_copies()
+        except Failed as failed:
+            problem = failed
+            raise
+        finally:
             if problem is not None:
                 self._keep_evidence()
-        finally:
             self.desk.close()
         print(f"Pictures are in {self.pictures}")
 
     def _copy_program(self):
-        """The executable and what lies beside it, not the tests' executables, databases and settings of others."""
+        """Copies the executable and its data, but no test executables, and no databases or settings left by others."""
         foreign = {"samples", self.settings.path.name} | {
             f.name for f in self._source.iterdir()
             if f.is_file() and f.name != "tallymoor" and os.access(f, os.X_OK)}
@@ -74,25 +84,37 @@ class Tour:
             shutil.copy(log, self.pictures)
         if self._process and self._process.poll() is None:
             (self.pictures / "windows.txt").write_text(reader.program(self._process.pid).outline(), encoding="utf-8")
-        said = self.desk.folder / "tallymoor.log"
-        print(f"The program said:\n{said.read_text(errors='replace') if said.exists() else ''}", file=sys.stderr)
+        for _, log in self._copies:
+            print(f"{log.stem} printed:\n{log.read_text(errors='replace')}", file=sys.stderr)
 
     # The program
 
     def start(self):
-        """Starts the program, or one more copy of it, which the tour turns to at once. Gives its process."""
-        self._process = self.desk.start(str(self.program / "tallymoor"))
+        """Starts the program, or one more copy of it, which becomes the current one. Returns its process."""
+        log = self.desk.folder / f"tallymoor-{len(self._copies) + 1}.log"
+        self._process = self.desk.start(str(self.program / "tallymoor"), log=log)
+        self._copies.append((self._process, log))
         return self._process
 
+    def _check_copies(self):
+        """Every copy still runs or has ended in order, and none has printed a warning."""
+        for copy, log in self._copies:
+            if copy.poll() not in (None, *self.expected_ends):
+                raise Failed(f"a copy of the program ended with {copy.returncode}")
+            words = [line for line in log.read_text(errors="replace").splitlines()
+                     if line.strip() and not self.HARMLESS.search(line)]
+            if words:
+                raise Failed("the program printed: " + "; ".join(words[:5]))
+
     def turn_to(self, copy):
-        """From now on the tour reads and drives that copy of the program, with its windows in front."""
+        """Makes that copy of the program the current one and raises its windows."""
         self._process = copy
         for number in self._window_numbers("Tallymoor"):
             if self.desk.run("xdotool", "getwindowpid", number, check=False).strip() == str(copy.pid):
                 self.desk.run("xdotool", "windowactivate", "--sync", number)
 
     def end(self):
-        """Waits until the program has ended by itself, in order."""
+        """Waits until the program has ended normally."""
         try:
             code = self._process.wait(PATIENCE)
         except subprocess.TimeoutExpired:
@@ -101,7 +123,7 @@ class Tour:
             raise Failed(f"the program ended with {code}")
 
     def wait_until(self, condition, what, timeout=PATIENCE):
-        """The first true answer of `condition`; a part of a window that vanishes under it counts as no answer."""
+        """Polls `condition` for its first true result; a part of a window that disappears meanwhile counts as false."""
         def asked():
             if self._process and self._process.poll() is not None:
                 raise Failed(f"the program ended with {self._process.returncode} while waiting for {what}")
@@ -118,7 +140,7 @@ class Tour:
     # Its windows
 
     def window(self, title):
-        """Waits for the window whose title contains `title`, brings it to the front and gives its X number."""
+        """Waits for the window whose title contains `title`, brings it to the front and returns its X id."""
         def raised():
             number = next(reversed(self._window_numbers(title)), None)
             try:
@@ -137,7 +159,7 @@ class Tour:
         return self.find("list item", label, within=self.board())
 
     def dialog(self, title):
-        """Waits for the dialog of exactly that title, brings it to the front and gives it as a part to look within."""
+        """Waits for the dialog of exactly that title, brings it to the front and returns it as a part to search in."""
         self.window(f"^{re.escape(title)}$")
         return self.wait_until(lambda: self._shown_window(title), f'the dialog "{title}"')
 
@@ -146,7 +168,7 @@ class Tour:
         return next((part for part in root.children if part.name == title and part.has("showing")), None)
 
     def windows(self):
-        """The titles of all windows that show."""
+        """The titles of all visible windows."""
         return [self.desk.run("xdotool", "getwindowname", number, check=False).strip()
                 for number in self._window_numbers(".")]
 
@@ -155,13 +177,13 @@ class Tour:
         return re.findall(r"^\d+$", said, re.MULTILINE)
 
     def all(self, role, name=None, within=None):
-        """Every showing part of that role, and name if one is given, in the program or within another part."""
+        """Every visible part of that role, and name if one is given, in the program or in another part."""
         root = within or reader.program(self._process.pid)
         return [thing for thing in (root.below() if root else ())
                 if thing.role == role and (name is None or thing.name == name) and thing.has("showing")]
 
     def find(self, role, name=None, within=None):
-        """Waits for the first showing part of that role and name."""
+        """Waits for the first visible part of that role and name."""
         return self.wait_until(lambda: self.all(role, name, within), f'{role} "{name or ""}"')[0]
 
     def close_by_frame(self, title):
@@ -202,7 +224,7 @@ class Tour:
         self.click(where, button=3)
 
     def drag(self, where, by, button=1):
-        """Takes a part by its middle, or whatever lies at a place, and puts it down `by` pixels right and down."""
+        """Drags a part by its middle, or whatever is at a place, `by` pixels right and down."""
         x, y = self.place(where)
         self.clicks += 1
         steps = [(x + by[0] * i // 4, y + by[1] * i // 4) for i in (1, 2, 3, 4)]
@@ -210,7 +232,7 @@ class Tour:
         self.desk.run("xdotool", "mousemove", str(x), str(y), "mousedown", str(button), *moves, "mouseup", str(button))
 
     def drop_file(self, path, where):
-        """Drags a file from a window of another program onto a part, or a place on the screen, where it is taken."""
+        """Drags a file from a window of another program onto a part, or a place on the screen, that accepts it."""
         x, y = self.place(where)
         self.clicks += 1
         said = self.desk.folder / "drop.log"
@@ -258,7 +280,7 @@ class Tour:
         self.wait_until(lambda: self._shown_window(title) is None, f'the dialog "{title}" to go')
 
     def pick(self, box, line):
-        """Chooses a line of a drop-down list. A list takes no click right after it has opened: then clicks again."""
+        """Chooses a line of a drop-down list. A list ignores clicks right after it has opened; then clicks again."""
         self.click(box)
         for patience in (1, 1, PATIENCE):  # seconds
             self.click(self.find("list item", line, within=box))
@@ -297,23 +319,32 @@ class Tour:
                     return database, label
         raise Failed("no sample card has a sound")
 
-    # What came of it
+    # Results
 
     def picture(self, name, of="root"):
-        """Takes a picture of the screen, or of the window with that title, numbered in the order of the tour."""
+        """Takes a screenshot, or a picture of the window with that title, numbered in the order of the tour. Gives its
+        path."""
         self._pictures_taken += 1
-        self.desk.picture(self.pictures / f"{self._pictures_taken:02}-{name}.png", of if of == "root" else self.window(of))
+        path = self.pictures / f"{self._pictures_taken:02}-{name}.png"
+        self.desk.picture(path, of if of == "root" else self.window(of))
+        return path
+
+    def pixels_changed(self, picture):
+        """How many pixels of the screen differ from a picture that was taken of it."""
+        now = self.desk.folder / "now.png"
+        self.desk.picture(now)
+        return int(float(self.desk.run("compare", "-metric", "AE", str(picture), str(now), "null:", check=False)))
 
     def listen(self):
-        """An ear at the speaker, for a with statement."""
+        """A recorder of the speaker, for a with statement."""
         return Ear(self.desk)
 
     def contents(self, folder):
-        """Every file below the folder with its bytes, to be compared with a later look."""
+        """Every file below the folder with its bytes, for a later comparison."""
         folder = pathlib.Path(folder)
         return {str(f.relative_to(folder)): f.read_bytes() for f in sorted(folder.rglob("*")) if f.is_file()}
 
     def check_same(self, before, after):
-        """Fails with the names of the files that came, went or changed."""
+        """Fails with the names of the files that were added, removed or changed."""
         differing = sorted(name for name in before.keys() | after.keys() if before.get(name) != after.get(name))
         self.check(not differing, f"files came, went or changed: {', '.join(differing)}")

@@ -1,5 +1,5 @@
-// drop_source FILE: a window from which the file can be dragged with the mouse, as from a file manager. Ends
-// with the drag: with 0 when somebody took the file, else with 1.
+// drop_source FILE: a window from which the file can be dragged with the mouse, as from a file manager. Exits
+// after the drag, with 0 when the drop was accepted, else with 1.
 
 #include <QApplication>
 #include <QDrag>
@@ -10,6 +10,8 @@
 #include <QTextStream>
 #include <QUrl>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 class DropSource : public QLabel {
@@ -18,10 +20,10 @@ public:
         : QLabel(QUrl::fromLocalFile(file).fileName())
         , url(QUrl::fromLocalFile(file))
     {
-        setWindowTitle(QStringLiteral("Drop source"));
+        setWindowTitle(u"Drop source"_s);
         setFixedSize(160, 60);
         move(screen()->availableGeometry().bottomRight() -
-             rect().bottomRight()); // out of the way of what is dropped on
+             rect().bottomRight()); // does not cover the drop target
     }
 
 protected:

@@ -1,4 +1,4 @@
-"""Reads the windows of a program as a screen reader does: their parts by role and name, with places and states."""
+"""Reads the windows of a program like a screen reader: their parts by role and name, with places and states."""
 
 import os
 
@@ -6,7 +6,7 @@ _atspi = None
 Gone = None  # what is raised when a part of a window has vanished
 
 def connect(environment):
-    """Joins the message bus of the desk. Once in a process, before anything is read."""
+    """Connects to the desk's message bus. Call it once in a process, before anything is read."""
     global _atspi, Gone
     os.environ.update(environment)
     import gi
@@ -18,7 +18,7 @@ def connect(environment):
 
 
 class Thing:
-    """One part of a window, as assistive technology gets it."""
+    """One part of a window, as assistive technology sees it."""
 
     def __init__(self, accessible):
         self._accessible = accessible
@@ -54,7 +54,7 @@ class Thing:
 
     @property
     def text(self):
-        """What stands in a text box; the name of anything else."""
+        """The content of a text box; the name of anything else."""
         box = self._accessible.get_text_iface()
         return _atspi.Text.get_text(box, 0, -1) if box else self.name
 
@@ -63,11 +63,11 @@ class Thing:
         return self._accessible.get_value_iface().get_current_value()
 
     def press(self):
-        """Does what assistive technology would do to press it."""
+        """Presses it like assistive technology."""
         self._accessible.get_action_iface().do_action(0)
 
     def below(self):
-        """Itself and everything in it, from the top down; parts that vanish meanwhile are left out."""
+        """Itself and everything in it, from the top down; parts that disappear meanwhile are left out."""
         try:
             children = self.children
         except Gone:
@@ -77,7 +77,7 @@ class Thing:
             yield from child.below()
 
     def outline(self, depth=0):
-        """The whole tree as text, for a look at what went wrong."""
+        """The whole tree as text, for debugging."""
         try:
             line = f"{'  ' * depth}[{self.role}] {self.name!r} {self.rectangle if self._accessible.get_component_iface() else ''}"
             shown = "" if self.has("showing") else " (hidden)"

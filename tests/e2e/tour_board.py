@@ -1,6 +1,6 @@
 """The first lesson: open the last database, move a card, listen to another, and close the window.
 
-Looking on and moving cards changes nothing on the disk."""
+Looking at cards and moving them changes nothing on the disk."""
 
 import sys
 

@@ -1,6 +1,6 @@
 """A teacher makes a database: the wizard, the design, three cards, one of them with a picture, one given up again.
 
-The teacher's hand is on the mouse but for typing; how often it clicks is counted. The next start finds it all."""
+Except for typing everything is done with the mouse; the clicks are counted. The next start finds the database."""
 
 import sys
 
@@ -25,7 +25,7 @@ CLICKS_ALLOWED = 39
 
 
 def description():
-    """What the file must hold after that design."""
+    """The expected content of the file after that design."""
     lines = [" 4 ", " 0 ", '"none"']
     for name, kind, answers in FIELDS:
         lines += [f'"{name}"', f'"{kind}"', str(bool(answers))]
@@ -35,7 +35,7 @@ def description():
 
 
 def fill(tour, window, name, text):
-    """Types into a box that has the keyboard by now."""
+    """Types into a box that has the focus."""
     box = tour.find("text", name, within=window)
     tour.wait_until(lambda: box.has("focused"), f'"{name}" to have the keyboard')
     tour.type(text)
@@ -112,14 +112,14 @@ def give_up_card(tour, number):
 
 
 def see_cards(tour):
-    """Waits until all cards lie on the board, and nothing else."""
+    """Waits until all cards are on the board, and nothing else."""
     board = tour.find("list", "Board")
     wanted = sorted(values[0] for values in CARDS)
     tour.wait_until(lambda: sorted(card.name for card in tour.all("list item", within=board)) == wanted, f"the cards {wanted}")
 
 
 def pixels(bitmap):
-    return bitmap.read_bytes()[54:]  # behind the header, which also tells a resolution
+    return bitmap.read_bytes()[54:]  # behind the header, which also contains a resolution
 
 
 def check_files(tour, database, picture):

@@ -1,6 +1,6 @@
 """The first minutes: open a sample by its icon, walk up and down the folders, slide along the menu, leave by Exit.
 
-Nothing of that changes a database."""
+None of this changes a database."""
 
 import sys
 

@@ -1,6 +1,6 @@
 """The table of the monsters: scrolled by wheel, bar and keys, with a picture dropped on a row; then the bin.
 
-One card is spared at the question, one is deleted, and the files are what was seen."""
+One deletion is cancelled, one is confirmed, and the files agree with the table."""
 
 import sys
 

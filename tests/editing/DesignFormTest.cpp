@@ -1,9 +1,9 @@
 #include "editing/DesignForm.h"
 
+#include "controls/fittedLabel.h"
+#include "controls/forms.h"
 #include "editing/designCommand.h"
 #include "editing/frmRemind.h"
-#include "platform/fittedLabel.h"
-#include "platform/forms.h"
 #include "store/descriptionFile.h"
 #include "store/settings.h"
 #include "support/files.h"
@@ -13,20 +13,21 @@
 #include <QRadioButton>
 #include <QTest>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 void setting(const char* section, const char* value)
 {
-    writeSetting(settingsFile(), QLatin1String(section), QStringLiteral("Status"), QLatin1String(value));
+    writeSetting(settingsFile(), QLatin1String(section), u"Status"_s, QLatin1String(value));
 }
 
 QString setting(const char* section)
 {
-    return readSetting(settingsFile(), QLatin1String(section), QStringLiteral("Status"),
-                       QStringLiteral("absent"));
+    return readSetting(settingsFile(), QLatin1String(section), u"Status"_s, u"absent"_s);
 }
 
-/// Clicks a button and lets what that has put off happen.
+/// Clicks a button and runs the events that it queued.
 void press(QPushButton* button)
 {
     QTest::mouseClick(button, Qt::LeftButton);
@@ -38,7 +39,7 @@ QPushButton* button(const DesignForm& dialog, const char* name)
     return dialog.findChild<QPushButton*>(QLatin1String(name));
 }
 
-/// Presses the letter of a button's caption; the button shows itself pressed for a moment before it acts.
+/// Presses the mnemonic of a button; the button is shown pressed for a moment before it acts.
 bool pressLetter(QDialog& dialog, Qt::Key letter, const std::function<bool()>& done)
 {
     QTest::keyClick(&dialog, letter, Qt::AltModifier);
@@ -52,17 +53,17 @@ protected:
     Design()
     {
         session.dbPath = testFolder().chopped(1);
-        session.menuItemState[1][1] = QStringLiteral("Show");
+        session.menu.menuItemState[1][1] = u"Show"_s;
     }
 
-    /// Runs the command with a pupil who does this in the dialog.
+    /// Runs the command with these actions of the pupil in the dialog.
     static void design(const std::function<void(DesignForm&)>& step)
     {
         recorded.dialogSteps.push_front([step](QDialog& dialog) { step(dynamic_cast<DesignForm&>(dialog)); });
         designCommand();
     }
 
-    static QByteArray description() { return bytesOf(inTestFolder(QStringLiteral("db-info.tdb"))); }
+    static QByteArray description() { return bytesOf(inTestFolder(u"db-info.tdb"_s)); }
 };
 
 TEST_F(Design, TwoQuickClicksOpenOneDialog)
@@ -80,7 +81,7 @@ TEST_F(Design, TwoQuickClicksOpenOneDialog)
         dialog.hide();
     };
     designCommand();
-    EXPECT_EQ(recorded.started, QStringList(QStringLiteral("Field Details")));
+    EXPECT_EQ(recorded.started, QStringList(u"Field Details"_s));
 }
 
 TEST_F(Design, AnotherSizeRedrawsTheCardsOnceTheDialogIsLeft)
@@ -94,19 +95,19 @@ TEST_F(Design, AnotherSizeRedrawsTheCardsOnceTheDialogIsLeft)
     });
     EXPECT_EQ(session.cardHeight, 24);
     EXPECT_TRUE(description().contains("\r\n 2 \r\n"));
-    session.shrinkdummy.height = 99;
+    session.editor.shrinkdummy.height = 99;
     design([](DesignForm&) {});
-    EXPECT_EQ(session.shrinkdummy.height, 99) << "not redrawn for the same size";
+    EXPECT_EQ(session.editor.shrinkdummy.height, 99) << "not redrawn for the same size";
 }
 
 TEST_F(Design, TheReadOnlyTickBecomesTheStatusByOkOnly)
 {
     design([](DesignForm& dialog) {
-        EXPECT_TRUE(pressLetter(dialog, Qt::Key_R, [] { return session.designReadOnly; }));
+        EXPECT_TRUE(pressLetter(dialog, Qt::Key_R, [] { return session.design.ChkRD; }));
         QTest::keyClick(&dialog, Qt::Key_Escape);
     });
-    EXPECT_EQ(session.databaseStatus, QStringLiteral("RW"));
-    EXPECT_EQ(setting("Database"), QStringLiteral("absent"));
+    EXPECT_EQ(session.databaseStatus, u"RW"_s);
+    EXPECT_EQ(setting("Database"), u"absent"_s);
 
     design([](DesignForm& dialog) {
         EXPECT_FALSE(dialog.ChkRD->isChecked()) << "the tick was cancelled";
@@ -114,10 +115,10 @@ TEST_F(Design, TheReadOnlyTickBecomesTheStatusByOkOnly)
         QTest::keyClick(&dialog, Qt::Key_Return);
         QCoreApplication::processEvents();
     });
-    EXPECT_EQ(session.dialogResult, QStringLiteral("OK"));
-    EXPECT_EQ(setting("Database"), QStringLiteral("RO"));
+    EXPECT_EQ(session.dialogResult, u"OK"_s);
+    EXPECT_EQ(setting("Database"), u"RO"_s);
     EXPECT_TRUE(description().endsWith("RO\r\nVER=\"1.1.0\"\r\n"));
-    EXPECT_EQ(session.menuItemState[1][1], QStringLiteral("Show")) << "until it is opened again";
+    EXPECT_EQ(session.menu.menuItemState[1][1], u"Show"_s) << "until it is opened again";
 
     setting("RO", "RO");
     design([](DesignForm& dialog) {
@@ -142,42 +143,42 @@ TEST_F(Design, TheReminderComesWhenItIsWantedAndCanBeEnded)
         });
         design(confirm);
         EXPECT_EQ(recorded.beeps, 1);
-        EXPECT_EQ(setting("Remind"), again ? QStringLiteral("1") : QStringLiteral("0"));
+        EXPECT_EQ(setting("Remind"), again ? u"1"_s : u"0"_s);
     }
     design(confirm);
 }
 
 TEST_F(Design, ACancelledNewDoesNotEmptyTheDatabaseThatIsStillOpen)
 {
-    session.fieldName[1] = QStringLiteral("Pet");
+    session.fieldName[1] = u"Pet"_s;
     session.cardSize = 1;
     writeDbInfo();
     const QByteArray before = description();
     resetFieldTable();
-    session.fieldTableForgotten = true;
-    design([](DesignForm& dialog) { EXPECT_EQ(dialog.fieldName[1]->text(), QStringLiteral("Pet")); });
+    session.design.fieldTableForgotten = true;
+    design([](DesignForm& dialog) { EXPECT_EQ(dialog.fieldName[1]->text(), u"Pet"_s); });
     EXPECT_EQ(description(), before);
-    session.fieldName[1] = QStringLiteral("changed");
+    session.fieldName[1] = u"changed"_s;
     design([](DesignForm&) {});
-    EXPECT_EQ(session.fieldName[1], QStringLiteral("changed")) << "read once";
+    EXPECT_EQ(session.fieldName[1], u"changed"_s) << "read once";
 }
 
 TEST_F(Design, AFolderThatVanishedIsToldAndTheSessionStays)
 {
-    session.dbPath = inTestFolder(QStringLiteral("gone"));
+    session.dbPath = inTestFolder(u"gone"_s);
     design([](DesignForm& dialog) { press(dialog.spinUp); });
-    EXPECT_EQ(recorded.messages, QStringList(QStringLiteral("Error|Path not found")));
+    EXPECT_EQ(recorded.messages, QStringList(u"Error|Path not found"_s));
     EXPECT_EQ(session.numFields, 4);
 }
 
 TEST_F(Design, AVideoThatIsNotThereIsPassedOver)
 {
-    desktop.startProgram = [](const QString& path, const QStringList&) {
+    desktop.programs.start = [](const QString& path, const QStringList&) {
         recorded.started.append(path);
         throw RuntimeError(fileNotFound);
     };
     design([](DesignForm& dialog) { press(button(dialog, "BtnVid")); });
-    EXPECT_EQ(recorded.started, QStringList(inTestFolder(QStringLiteral("Videos/Newdb.exe"))));
+    EXPECT_EQ(recorded.started, QStringList(inTestFolder(u"Videos/Newdb.exe"_s)));
     EXPECT_TRUE(recorded.messages.isEmpty());
 }
 
@@ -186,7 +187,7 @@ TEST_F(Design, IsWholeOnASmallScreenAndReachedByKeysWithEveryField)
     session.numFields = 12;
     for (int f = 1; f <= 12; ++f) {
         session.fieldUseList[f] = true;
-        session.fieldName[f] = QStringLiteral("A name that is far longer than its place, for %1").arg(f);
+        session.fieldName[f] = u"A name that is far longer than its place, for %1"_s.arg(f);
     }
     design([](DesignForm& dialog) {
         EXPECT_LE(dialog.minimumSizeHint().width(), 950);

@@ -1,6 +1,6 @@
 #include "editing/FieldForm.h"
 
-#include "platform/forms.h"
+#include "controls/forms.h"
 #include "support/freshStart.h"
 
 #include <QCheckBox>
@@ -10,15 +10,17 @@
 #include <QLineEdit>
 #include <QTest>
 
+using namespace Qt::StringLiterals;
+
 class FieldDetails : public Fresh {
 protected:
     FieldDetails()
     {
-        session.fieldName[2] = QStringLiteral("Legs");
-        session.fieldType[2] = QStringLiteral("123");
+        session.fieldName[2] = u"Legs"_s;
+        session.fieldType[2] = u"123"_s;
     }
 
-    /// Opens the dialog for field 2 with a pupil who does this and ends with that key.
+    /// Opens the dialog for field 2, runs these actions and presses that key.
     static bool edit(const std::function<void(FieldForm&)>& step, Qt::Key end = Qt::Key_Return)
     {
         recorded.dialogSteps.push_back([=](QDialog& dialog) {
@@ -35,13 +37,13 @@ TEST_F(FieldDetails, ANumberListTakesDigitsSlashAndTheDeleteKey)
     edit([](FieldForm& dialog) {
         dialog.UseList->click();
         QLineEdit* box = dialog.possAnswer[1];
-        QTest::keyClicks(box, QStringLiteral("-1.5 a1/2e,"));
-        EXPECT_EQ(box->text(), QStringLiteral("151/2"));
+        QTest::keyClicks(box, u"-1.5 a1/2e,"_s);
+        EXPECT_EQ(box->text(), u"151/2"_s);
         QTest::keyClick(box, Qt::Key_Backspace);
-        EXPECT_EQ(box->text(), QStringLiteral("151/2"));
+        EXPECT_EQ(box->text(), u"151/2"_s);
         QTest::keyClick(box, Qt::Key_Home);
         QTest::keyClick(box, Qt::Key_Delete);
-        EXPECT_EQ(box->text(), QStringLiteral("51/2"));
+        EXPECT_EQ(box->text(), u"51/2"_s);
         for (const auto& [composed, result] : {std::pair("é", "51/2"), std::pair("7", "751/2")}) {
             QInputMethodEvent event;
             event.setCommitString(QString::fromUtf8(composed));
@@ -50,8 +52,8 @@ TEST_F(FieldDetails, ANumberListTakesDigitsSlashAndTheDeleteKey)
         }
         dialog.fieldType->setCurrentIndex(0);
         QTest::keyClick(box, Qt::Key_Backspace);
-        QTest::keyClicks(box, QStringLiteral("x.-"));
-        EXPECT_EQ(box->text(), QStringLiteral("x.-51/2"));
+        QTest::keyClicks(box, u"x.-"_s);
+        EXPECT_EQ(box->text(), u"x.-51/2"_s);
     });
 }
 
@@ -59,10 +61,10 @@ TEST_F(FieldDetails, TheNameIsSelectedWheneverItGetsTheFocus)
 {
     edit([](FieldForm& dialog) {
         QLineEdit* name = dialog.fieldNameBox;
-        EXPECT_EQ(name->selectedText(), QStringLiteral("Legs")) << "when the dialog opens";
+        EXPECT_EQ(name->selectedText(), u"Legs"_s) << "when the dialog opens";
         dialog.fieldType->setFocus();
         QTest::mouseClick(name, Qt::LeftButton);
-        EXPECT_EQ(name->selectedText(), QStringLiteral("Legs")) << "by the mouse";
+        EXPECT_EQ(name->selectedText(), u"Legs"_s) << "by the mouse";
         QTest::mouseClick(name, Qt::LeftButton);
         EXPECT_TRUE(name->selectedText().isEmpty()) << "a second click puts the caret";
         dialog.fieldType->setFocus();

@@ -1,14 +1,14 @@
-// Databases made up at random: what the folder must hold is told by a model that knows nothing of the
-// program.
-#include "core/screen.h"
+// Random databases. A separate model, which uses none of the program's code, says what the folder must
+// contain.
+#include "core/mainView.h"
+#include "database/loading.h"
+#include "database/opening.h"
 #include "editing/DesignForm.h"
 #include "editing/FieldForm.h"
-#include "editing/cardEditor.h"
+#include "editing/cardEntry.h"
 #include "editing/designCommand.h"
 #include "editing/editCard.h"
 #include "store/descriptionFile.h"
-#include "store/loading.h"
-#include "store/opening.h"
 #include "support/files.h"
 
 #include <QCheckBox>
@@ -23,13 +23,15 @@
 #include <map>
 #include <random>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 std::mt19937 dice;
 
 int roll(int sides) { return std::uniform_int_distribution(0, sides - 1)(dice); }
 
-/// Up to ten letters, a quote never among them.
+/// Up to ten letters without quotes.
 QString anyText(const QString& letters)
 {
     QString text;
@@ -38,8 +40,8 @@ QString anyText(const QString& letters)
     return text;
 }
 
-const QString codePageLetters = QStringLiteral("abcXYZ 019,.;:-'()\u00e4\u00f6\u00df\u00e9\t");
-const QString allLetters = codePageLetters + QStringLiteral("\u0141\u0105\u20ac\u4e2d\ufeff");
+const QString codePageLetters = u"abcXYZ 019,.;:-'()\u00e4\u00f6\u00df\u00e9\t"_s;
+const QString allLetters = codePageLetters + u"\u0141\u0105\u20ac\u4e2d\ufeff"_s;
 
 struct Field {
     QString name;
@@ -49,17 +51,17 @@ struct Field {
 
     bool operator==(const Field&) const = default;
 
-    /// What the field makes of a text: a number's takes digits and points.
+    /// The text as the field accepts it: a number field accepts digits and points.
     QString taking(QString text) const
     {
-        static const QRegularExpression others(QStringLiteral("[^0-9.]"));
-        return type == QLatin1String("123") ? text.remove(others) : text;
+        static const QRegularExpression others(u"[^0-9.]"_s);
+        return type == "123"_L1 ? text.remove(others) : text;
     }
 };
 
 Field anyField(const QString& letters)
 {
-    Field field{anyText(letters), roll(2) ? QStringLiteral("Abc") : QStringLiteral("123"), roll(2) == 0, {}};
+    Field field{anyText(letters), roll(2) ? u"Abc"_s : u"123"_s, roll(2) == 0, {}};
     for (int item = 1; field.useList && item <= 12; ++item)
         field.answers[item] = anyText(letters);
     return field;
@@ -67,23 +69,23 @@ Field anyField(const QString& letters)
 
 QByteArray quoted(const QString& text) { return '"' + text.toLatin1() + "\"\r\n"; }
 
-/// The database as its folder must hold it. Texts are such that Latin-1 and the code page agree on them.
+/// The expected content of the database's folder. All texts are the same in Latin-1 and in the code page.
 struct Model {
     int numFields = 3;
     int size = 0;
     bool readOnlyTick = false;
     QByteArray status = "RW";
     Table<Field, 12> fields;
-    std::map<QString, QStringList> records; // values of each card when it was last written
+    std::map<QString, QStringList> records; // values of each card at its last writing
 
     void forgetUnusedFields(int used)
     {
         for (int f = used + 1; f <= 12; ++f)
-            fields[f] = {QStringLiteral("fieldname%1").arg(f), QStringLiteral("Abc"), false, {}};
+            fields[f] = {u"fieldname%1"_s.arg(f), u"Abc"_s, false, {}};
     }
 
-    /// The values in the editor's boxes when the card is opened. The last value of a record stands for those
-    /// that it lacks.
+    /// The values in the editor's boxes when the card is opened. Missing values of a record repeat its last
+    /// one.
     QStringList shownBy(const QString& id) const
     {
         const auto record = records.find(id);
@@ -116,13 +118,13 @@ class RandomDatabases : public Fresh {
 protected:
     RandomDatabases()
     {
-        session.dbPath = inTestFolder(QStringLiteral("db"));
+        session.dbPath = inTestFolder(u"db"_s);
         QDir().mkdir(session.dbPath);
         dice.seed(20090317);
-        screen.openCard = openCardEditor;
+        mainView.openCard = openCardEditor;
     }
 
-    static QString description() { return session.dbPath + QStringLiteral("/db-info.tdb"); }
+    static QString description() { return session.dbPath + u"/db-info.tdb"_s; }
 
     void designSession(Model& model);
     void designStep(DesignForm& dialog, Model& model);
@@ -139,7 +141,7 @@ TEST_F(RandomDatabases, ComeBackAsTheyWereWritten)
         Table<Field, 12> written;
         const int numFields = 1 + roll(12);
         const int size = roll(3);
-        const QString status = roll(2) ? QStringLiteral("RW") : QStringLiteral("RO");
+        const QString status = roll(2) ? u"RW"_s : u"RO"_s;
         session.numFields = numFields;
         session.cardSize = qint16(size);
         session.databaseStatus = status;
@@ -186,16 +188,16 @@ TEST_F(RandomDatabases, OfTheOldVersionAreUpgradedByTheFirstDesign)
                     old += quoted(model.fields[f].answers[item]);
                 else
                     model.fields[f].answers[item].clear();
-                session.fieldListItem[f][item] = QStringLiteral("of the database before");
+                session.fieldListItem[f][item] = u"of the database before"_s;
             }
         }
         putFile(description(), old + "RW\r\n");
         openChosenFolder(session.dbPath);
-        EXPECT_EQ(session.dbVersion, QStringLiteral("1.0.0"));
+        EXPECT_EQ(session.dbVersion, u"1.0.0"_s);
         recorded.dialogSteps.push_back([](QDialog& dialog) { dialog.reject(); });
         designCommand();
         EXPECT_EQ(bytesOf(description()), model.description()) << round;
-        EXPECT_EQ(session.dbVersion, QStringLiteral("1.1.0"));
+        EXPECT_EQ(session.dbVersion, u"1.1.0"_s);
     }
 }
 
@@ -203,13 +205,13 @@ TEST_F(RandomDatabases, AWalkOfDesignsAndEditsLeavesWhatTheModelTells)
 {
     Model model;
     model.forgetUnusedFields(0);
-    designSession(model); // a database has its description from the start
+    designSession(model); // writes the description
     while (steps < 500 && !HasFailure()) {
         switch (roll(4)) {
         case 0:
             editSomeCard(model);
             break;
-        case 1: // closed and opened again
+        case 1: // close and reopen
             openChosenFolder(session.dbPath);
             model.forgetUnusedFields(model.numFields);
             ++steps;
@@ -221,7 +223,7 @@ TEST_F(RandomDatabases, AWalkOfDesignsAndEditsLeavesWhatTheModelTells)
     }
 }
 
-/// A visit to the design dialog with up to five changes, ended by OK or Cancel.
+/// Up to five changes in the design dialog, then OK or Cancel.
 void RandomDatabases::designSession(Model& model)
 {
     const bool ok = roll(2) == 0;
@@ -229,7 +231,7 @@ void RandomDatabases::designSession(Model& model)
     recorded.dialogSteps.push_back([&](QDialog& dialog) {
         for (int changes = roll(6); changes > 0; --changes)
             designStep(dynamic_cast<DesignForm&>(dialog), model);
-        dialog.findChild<QPushButton*>(ok ? QStringLiteral("ok_but") : QStringLiteral("cancel_but"))->click();
+        dialog.findChild<QPushButton*>(ok ? u"ok_but"_s : u"cancel_but"_s)->click();
         QCoreApplication::processEvents();
     });
     designCommand();
@@ -270,11 +272,11 @@ void RandomDatabases::editSomeField(DesignForm& dialog, Model& model)
         EXPECT_EQ(field.fieldNameBox->text(), model.fields[f].name);
         EXPECT_EQ(field.UseList->isChecked(), model.fields[f].useList);
         field.fieldNameBox->setText(wanted.name);
-        field.fieldType->setCurrentIndex(wanted.type == QLatin1String("Abc") ? 0 : 1);
+        field.fieldType->setCurrentIndex(wanted.type == "Abc"_L1 ? 0 : 1);
         field.UseList->setChecked(wanted.useList);
         for (int item = 1; item <= 12; ++item)
             field.possAnswer[item]->setText(wanted.answers[item]);
-        field.findChild<QPushButton*>(ok ? QStringLiteral("ok_but") : QStringLiteral("cancel_but"))->click();
+        field.findChild<QPushButton*>(ok ? u"ok_but"_s : u"cancel_but"_s)->click();
     });
     dialog.EditFieldBut[f]->click();
     QCoreApplication::processEvents();
@@ -282,14 +284,14 @@ void RandomDatabases::editSomeField(DesignForm& dialog, Model& model)
         model.fields[f] = wanted;
 }
 
-/// A card added or opened in its editor, some of its boxes filled, and left by OK or Cancel.
+/// Adds a card or opens one in its editor, fills some boxes, and leaves by OK or Cancel.
 void RandomDatabases::editSomeCard(Model& model)
 {
     ++steps;
-    loadAllCards(); // as a tick of the refresh, with the fields as they are now
+    loadAllCards(); // like a tick of the refresh, with the present fields
     const bool adds = session.numCards == 0 || (session.numCards < 12 && roll(3) == 0);
     const bool ok = roll(3) > 0;
-    for (int i = 0; i < 10; ++i) // a new card's name and place
+    for (int i = 0; i < 10; ++i) // random numbers for a new card's name and place
         recorded.randoms.push_back(roll(1000) / 1000.0);
     QString id;
     QStringList values;
@@ -301,12 +303,11 @@ void RandomDatabases::editSomeCard(Model& model)
             EXPECT_EQ(editor.DataBox[f]->text(), values[f - 1]) << "field " << f << " in step " << steps;
             if (roll(2) == 0)
                 continue;
-            const QString text =
-                anyText(codePageLetters).remove(QLatin1Char('\t')); // tabs are too wide for a box
+            const QString text = anyText(codePageLetters).remove(u'\t'); // tabs are too wide for a box
             editor.DataBox[f]->setText(text);
             values[f - 1] = model.fields[f].taking(text);
         }
-        dialog.findChild<QPushButton*>(ok ? QStringLiteral("ok_but") : QStringLiteral("cancel_but"))->click();
+        dialog.findChild<QPushButton*>(ok ? u"ok_but"_s : u"cancel_but"_s)->click();
     });
     adds ? addCard() : openCardEditor(1 + roll(session.numCards));
     QCoreApplication::processEvents();
@@ -318,10 +319,10 @@ void RandomDatabases::expectFolder(const Model& model)
 {
     EXPECT_EQ(QString::fromLatin1(bytesOf(description())), QString::fromLatin1(model.description()))
         << "after step " << steps;
-    const auto found = QDir(session.dbPath).entryList({QStringLiteral("*.tcd")}, QDir::Files);
+    const auto found = QDir(session.dbPath).entryList({u"*.tcd"_s}, QDir::Files);
     EXPECT_EQ(size_t(found.size()), model.records.size());
     for (const auto& [id, values] : model.records) {
-        const QByteArray record = bytesOf(session.dbPath + QLatin1Char('/') + id + QStringLiteral(".tcd"));
+        const QByteArray record = bytesOf(session.dbPath + u'/' + id + u".tcd"_s);
         QByteArray expected;
         for (const QString& value : values)
             expected += quoted(value);

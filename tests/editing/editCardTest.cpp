@@ -1,15 +1,14 @@
-// The card editor as a child meets it: cards are opened and added through their routines, filled in with keys
-// and mouse.
+// The card editor: cards are opened and added by their routines and filled in with keys and mouse.
 #include "editing/editCard.h"
 
-#include "core/screen.h"
-#include "editing/cardEditor.h"
-#include "platform/fittedLabel.h"
-#include "platform/forms.h"
+#include "controls/fittedLabel.h"
+#include "controls/forms.h"
+#include "core/mainView.h"
+#include "database/loading.h"
+#include "editing/cardEntry.h"
 #include "platform/pictureFile.h"
 #include "store/cardFiles.h"
 #include "store/descriptionFile.h"
-#include "store/loading.h"
 #include "store/settings.h"
 #include "support/files.h"
 
@@ -22,6 +21,8 @@
 
 #include <sys/mount.h>
 
+using namespace Qt::StringLiterals;
+
 using testing::ElementsAre;
 using testing::IsEmpty;
 
@@ -33,39 +34,39 @@ class EditingCards : public Fresh {
 protected:
     EditingCards()
     {
-        session.dbPath = testFolder() + QStringLiteral("db");
+        session.dbPath = testFolder() + u"db"_s;
         QDir().mkpath(session.dbPath);
         session.numFields = 3;
-        session.fieldName[1] = QStringLiteral("Name");
-        session.fieldName[2] = QStringLiteral("Legs");
-        session.fieldType[2] = QStringLiteral("123");
-        session.fieldName[3] = QStringLiteral("Colour");
+        session.fieldName[1] = u"Name"_s;
+        session.fieldName[2] = u"Legs"_s;
+        session.fieldType[2] = u"123"_s;
+        session.fieldName[3] = u"Colour"_s;
         session.fieldUseList[3] = true;
-        session.fieldListItem[3][1] = QStringLiteral("red");
-        session.fieldListItem[3][3] = QStringLiteral("blue");
+        session.fieldListItem[3][1] = u"red"_s;
+        session.fieldListItem[3][3] = u"blue"_s;
         session.cardSize = 1;
         writeDbInfo();
         putCard("AAAAAAAA", {"Ant", "6", "red"}, Qt::red);
         putCard("CCCCCCCC", {"Cat", "4", "blue"}, Qt::blue);
         loadAllCards();
-        screen.openCard = openCardEditor;
+        mainView.openCard = openCardEditor;
     }
 
     static void putCard(const QByteArray& id, const QList<QByteArray>& values, const QColor& colour)
     {
-        const QString base = session.dbPath + QLatin1Char('/') + QString::fromLatin1(id);
-        putFile(base + QStringLiteral(".tcd"), "\"01000100\"\r\n\"" + values.join("\"\r\n\"") + "\"\r\n");
+        const QString base = session.dbPath + u'/' + QString::fromLatin1(id);
+        putFile(base + u".tcd"_s, "\"01000100\"\r\n\"" + values.join("\"\r\n\"") + "\"\r\n");
         QImage picture(159, 120, QImage::Format_RGB32);
         picture.fill(colour);
-        putFile(base + QStringLiteral(".bmp"), bitmapBytes(picture));
+        putFile(base + u".bmp"_s, bitmapBytes(picture));
     }
 
     static QByteArray record(const char* id)
     {
-        return bytesOf(session.dbPath + QLatin1Char('/') + QLatin1String(id) + QStringLiteral(".tcd"));
+        return bytesOf(session.dbPath + u'/' + QLatin1String(id) + u".tcd"_s);
     }
 
-    /// Prepares what the pupil does when the editor comes; then it has to be closed.
+    /// Prepares the pupil's actions in the editor; they have to close it.
     static void pupil(const std::function<void(editCard&)>& act)
     {
         recorded.dialogSteps.push_back([act](QDialog& dialog) {
@@ -88,7 +89,7 @@ protected:
 
     static void setting(const char* section, const QString& status)
     {
-        writeSetting(settingsFile(), QLatin1String(section), QStringLiteral("Status"), status);
+        writeSetting(settingsFile(), QLatin1String(section), u"Status"_s, status);
     }
 };
 
@@ -96,10 +97,10 @@ protected:
 
 TEST_F(EditingCards, ShowsTheCardsFieldsPictureAndName)
 {
-    session.fieldName[1] = QStringLiteral("The name by which everybody in the whole school knows it");
+    session.fieldName[1] = u"The name by which everybody in the whole school knows it"_s;
     pupil([](editCard& editor) {
-        EXPECT_EQ(editor.windowTitle(), QStringLiteral("Edit Card 2"));
-        EXPECT_EQ(editor.DataBox[1]->text(), QStringLiteral("Cat"));
+        EXPECT_EQ(editor.windowTitle(), u"Edit Card 2"_s);
+        EXPECT_EQ(editor.DataBox[1]->text(), u"Cat"_s);
         EXPECT_TRUE(editor.DataBox[3]->isReadOnly());
         EXPECT_TRUE(editor.pullDownBut[3]->isVisible());
         EXPECT_FALSE(editor.pullDownBut[2]->isVisible());
@@ -111,14 +112,14 @@ TEST_F(EditingCards, ShowsTheCardsFieldsPictureAndName)
     });
     openCardEditor(2);
     EXPECT_EQ(session.selectedCard, 2);
-    EXPECT_EQ(session.dialogResult, QStringLiteral("Cancel"));
+    EXPECT_EQ(session.dialogResult, u"Cancel"_s);
     EXPECT_FALSE(isLoaded<editCard>());
 }
 
 TEST_F(EditingCards, TwelveFieldsStandInTwoColumnsOfSixThatAllFitASmallScreen)
 {
     session.numFields = 12;
-    setting("Sound", QStringLiteral("1"));
+    setting("Sound", u"1"_s);
     pupil([](editCard& editor) {
         EXPECT_TRUE(editor.FTab1->isVisible());
         EXPECT_LE(editor.height(), 576);
@@ -155,17 +156,17 @@ TEST_F(EditingCards, FiltersWhatIsTyped)
             EXPECT_EQ(editor.DataBox[c.field]->text(), QLatin1String(c.kept));
         }
         EXPECT_EQ(recorded.beeps, 0);
-        editor.DataBox[2]->setText(QStringLiteral("1234"));
+        editor.DataBox[2]->setText(u"1234"_s);
         editor.DataBox[2]->setCursorPosition(2);
-        QTest::keyClicks(editor.DataBox[2], QStringLiteral("x9"));
-        EXPECT_EQ(editor.DataBox[2]->text(), QStringLiteral("12934"));
+        QTest::keyClicks(editor.DataBox[2], u"x9"_s);
+        EXPECT_EQ(editor.DataBox[2]->text(), u"12934"_s);
 
-        editor.DataBox[1]->setText(QString(200, u'W')); // set in code it goes the same way
+        editor.DataBox[1]->setText(QString(200, u'W')); // text set by code is filtered too
         const qsizetype most = editor.DataBox[1]->text().size();
         EXPECT_EQ(recorded.beeps, 1);
         EXPECT_THAT(int(most), testing::AllOf(testing::Gt(10), testing::Lt(20)));
         editor.DataBox[1]->setCursorPosition(0);
-        QTest::keyClicks(editor.DataBox[1], QStringLiteral("W"));
+        QTest::keyClicks(editor.DataBox[1], u"W"_s);
         EXPECT_EQ(recorded.beeps, 2);
         EXPECT_EQ(editor.DataBox[1]->text(), QString(most, u'W'));
         EXPECT_EQ(editor.DataBox[1]->cursorPosition(), most);
@@ -178,31 +179,29 @@ TEST_F(EditingCards, EscapeCancelsAndTheFrameAnswersNothing)
 {
     const QByteArray before = record("AAAAAAAA");
     pupil([](editCard& editor) {
-        type(editor, 1, QStringLiteral("Beetle"));
+        type(editor, 1, u"Beetle"_s);
         QTest::keyClick(&editor, Qt::Key_Escape);
     });
     openCardEditor(1);
-    EXPECT_EQ(session.dialogResult, QStringLiteral("Cancel"));
+    EXPECT_EQ(session.dialogResult, u"Cancel"_s);
     pupil([](editCard& editor) { editor.close(); });
     openCardEditor(1);
     EXPECT_EQ(session.dialogResult, QString());
     EXPECT_FALSE(isLoaded<editCard>());
     EXPECT_EQ(record("AAAAAAAA"), before);
-    EXPECT_EQ(session.cardValue[1][1], QStringLiteral("Ant"));
+    EXPECT_EQ(session.cardValue[1][1], u"Ant"_s);
 }
 
 TEST_F(EditingCards, AnAnswerIsPickedFromTheListByMouseAndByKeys)
 {
     session.fieldUseList[1] = true;
-    session.fieldListItem[1][12] = QStringLiteral("last");
-    session.fieldListItem[3][3] = QStringLiteral("black & blue");
+    session.fieldListItem[1][12] = u"last"_s;
+    session.fieldListItem[3][3] = u"black & blue"_s;
     pupil([](editCard& editor) {
         AnswerHolder& list = *editor.Answers;
-        const auto line = [&](int j) {
-            return list.findChild<QPushButton*>(QStringLiteral("possAnswer%1").arg(j));
-        };
-        QTest::keyClicks(editor.DataBox[3], QStringLiteral("green"));
-        EXPECT_EQ(editor.DataBox[3]->text(), QStringLiteral("red")); // locked
+        const auto line = [&](int j) { return list.findChild<QPushButton*>(u"possAnswer%1"_s.arg(j)); };
+        QTest::keyClicks(editor.DataBox[3], u"green"_s);
+        EXPECT_EQ(editor.DataBox[3]->text(), u"red"_s); // locked
 
         click(editor, "pullDownBut1");
         click(editor, "pullDownBut3");
@@ -214,7 +213,7 @@ TEST_F(EditingCards, AnAnswerIsPickedFromTheListByMouseAndByKeys)
         click(editor, "pullDownBut3");
         EXPECT_TRUE(line(3)->shortcut().isEmpty());
         QTest::mouseClick(line(3), Qt::LeftButton);
-        EXPECT_EQ(editor.DataBox[3]->text(), QStringLiteral("black & blue"));
+        EXPECT_EQ(editor.DataBox[3]->text(), u"black & blue"_s);
         EXPECT_FALSE(list.isVisible());
 
         editor.DataBox[3]->setFocus();
@@ -227,7 +226,7 @@ TEST_F(EditingCards, AnAnswerIsPickedFromTheListByMouseAndByKeys)
         click(editor, "pullDownBut1");
         for (int j = 2; j <= 12; ++j)
             QTest::keyClick(editor.focusWidget(), Qt::Key_Down);
-        EXPECT_FALSE(line(12)->visibleRegion().isEmpty()); // all twelve can be reached
+        EXPECT_FALSE(line(12)->visibleRegion().isEmpty()); // all twelve can be scrolled into view
         QTest::keyClick(editor.focusWidget(), Qt::Key_Escape);
         EXPECT_FALSE(list.isVisible());
         EXPECT_TRUE(editor.isVisible());
@@ -243,21 +242,20 @@ TEST_F(EditingCards, ADroppedPictureFillsTheFrameAndAWrongOneChangesNothing)
 {
     QImage wide(600, 30, QImage::Format_RGB32);
     wide.fill(Qt::green);
-    ASSERT_TRUE(wide.save(inTestFolder(QStringLiteral("wide.png"))));
-    putFile(inTestFolder(QStringLiteral("story.txt")), "Once upon a time");
+    ASSERT_TRUE(wide.save(inTestFolder(u"wide.png"_s)));
+    putFile(inTestFolder(u"story.txt"_s), "Once upon a time");
     const auto drop = [](editCard& editor, const QString& name) {
         QMimeData files;
-        files.setUrls(
-            {QUrl::fromLocalFile(inTestFolder(name)), QUrl::fromLocalFile(QStringLiteral("/other"))});
+        files.setUrls({QUrl::fromLocalFile(inTestFolder(name)), QUrl::fromLocalFile(u"/other"_s)});
         QDragEnterEvent enter(QPoint(5, 5), Qt::CopyAction, &files, Qt::LeftButton, Qt::NoModifier);
         QCoreApplication::sendEvent(editor.Picture1, &enter);
         QDropEvent event(QPointF(5, 5), Qt::CopyAction, &files, Qt::LeftButton, Qt::NoModifier);
         QCoreApplication::sendEvent(editor.Picture1, &event);
     };
     pupil([&](editCard& editor) {
-        drop(editor, QStringLiteral("wide.png"));
-        drop(editor, QStringLiteral("story.txt"));
-        EXPECT_THAT(recorded.messages, ElementsAre(QStringLiteral("Error|Invalid picture")));
+        drop(editor, u"wide.png"_s);
+        drop(editor, u"story.txt"_s);
+        EXPECT_THAT(recorded.messages, ElementsAre(u"Error|Invalid picture"_s));
         click(editor, "ok_but");
     });
     openCardEditor(1);
@@ -269,12 +267,11 @@ TEST_F(EditingCards, ADroppedPictureFillsTheFrameAndAWrongOneChangesNothing)
 
 TEST_F(EditingCards, ALockedDatabaseCanBeLookedAtOnly)
 {
-    setting("LockDB", QStringLiteral("1"));
-    setting("Sound", QStringLiteral("1"));
+    setting("LockDB", u"1"_s);
+    setting("Sound", u"1"_s);
     pupil([](editCard& editor) {
-        EXPECT_TRUE(QTest::qWaitFor(
-            [&] { return !editor.findChild<QPushButton*>(QStringLiteral("ok_but"))->isEnabled(); },
-            patience));
+        EXPECT_TRUE(QTest::qWaitFor([&] { return !editor.findChild<QPushButton*>(u"ok_but"_s)->isEnabled(); },
+                                    patience));
         EXPECT_FALSE(editor.Picture1->isEnabled());
         EXPECT_FALSE(editor.FTab1->isEnabled());
         QTest::keyClick(editor.DataBox[1], Qt::Key_Return);
@@ -303,26 +300,26 @@ TEST_F(EditingCards, AMissingPictureIsToldAndTheEditorOpensAllTheSame)
     QFile::remove(cardPicturePath(1));
     pupil([](editCard& editor) { click(editor, "cancel_but"); });
     openCardEditor(1);
-    EXPECT_THAT(recorded.messages, ElementsAre(QStringLiteral("Error|File not found")));
+    EXPECT_THAT(recorded.messages, ElementsAre(u"Error|File not found"_s));
     openCardEditor(101);
-    EXPECT_EQ(recorded.messages.last(), QStringLiteral("Error|Subscript out of range"));
+    EXPECT_EQ(recorded.messages.last(), u"Error|Subscript out of range"_s);
 }
 
 TEST_F(EditingCards, AddingACardWritesABlankPictureAndThenTheRecord)
 {
     recorded.randoms = {0.0, 0.04, 0.08, 0.5, 0.5, 0.5, 0.5, 0.999};
     pupil([](editCard& editor) {
-        EXPECT_EQ(editor.windowTitle(), QStringLiteral("Edit Card 3"));
+        EXPECT_EQ(editor.windowTitle(), u"Edit Card 3"_s);
         EXPECT_EQ(editor.DataBox[1]->text(), QString());
-        EXPECT_EQ(bytesOf(cardPicturePath(3)), bitmapBytes(session.Picture1.shown()));
-        type(editor, 1, QStringLiteral("Bee"));
+        EXPECT_EQ(bytesOf(cardPicturePath(3)), bitmapBytes(session.editor.Picture1.shown()));
+        type(editor, 1, u"Bee"_s);
         click(editor, "ok_but");
     });
     addCard();
     EXPECT_EQ(session.numCards, 3);
-    EXPECT_EQ(QString::fromLatin1(record("ABCNNNNZ").mid(12, 5)), QStringLiteral("\"Bee\""));
+    EXPECT_EQ(QString::fromLatin1(record("ABCNNNNZ").mid(12, 5)), u"\"Bee\""_s);
     EXPECT_TRUE(session.box[3].visible);
-    EXPECT_THAT(session.title.toStdString(), testing::HasSubstr("3 Card(s)"));
+    EXPECT_THAT(session.window.title.toStdString(), testing::HasSubstr("3 Card(s)"));
 }
 
 TEST_F(EditingCards, CancelTakesTheNewCardBackAndTheFrameKeepsIt)
@@ -332,7 +329,7 @@ TEST_F(EditingCards, CancelTakesTheNewCardBackAndTheFrameKeepsIt)
     EXPECT_EQ(session.numCards, 2);
     EXPECT_FALSE(session.box[3].visible);
     EXPECT_EQ(session.selectedCard, 2);
-    EXPECT_TRUE(QFile::exists(session.dbPath + QStringLiteral("/NNNNNNNN.bmp")));
+    EXPECT_TRUE(QFile::exists(session.dbPath + u"/NNNNNNNN.bmp"_s));
 
     pupil([](editCard& editor) { editor.close(); });
     addCard();
@@ -348,33 +345,39 @@ TEST_F(EditingCards, TheHundredthCardIsRefusedWithoutAWord)
     EXPECT_EQ(recorded.beeps, 0);
 }
 
-TEST_F(EditingCards, OnAFullDiskOKClosesInSilenceAndWhatWasThereStays)
+TEST_F(EditingCards, OnAFullDiskTheEditorStaysWithAllThatWasTypedUntilOKWorks)
 {
-    const QString disk = inTestFolder(QStringLiteral("disk"));
+    const QString disk = inTestFolder(u"disk"_s);
     QDir().mkpath(disk);
     if (::mount("tmpfs", qPrintable(disk), "tmpfs", 0, "size=192k") != 0)
         GTEST_SKIP() << "no small disk can be mounted here";
     for (const QString& file : QDir(session.dbPath).entryList(QDir::Files))
-        ASSERT_TRUE(QFile::copy(session.dbPath + QLatin1Char('/') + file, disk + QLatin1Char('/') + file));
+        ASSERT_TRUE(QFile::copy(session.dbPath + u'/' + file, disk + u'/' + file));
     session.dbPath = disk;
-    QFile ballast(disk + QStringLiteral("/ballast"));
+    loadAllCards();
+    QFile ballast(disk + u"/ballast"_s);
     ASSERT_TRUE(ballast.open(QIODevice::WriteOnly | QIODevice::Unbuffered));
     while (ballast.write(QByteArray(512, 'x')) > 0) {
     }
     const QByteArray before = record("AAAAAAAA");
     const QByteArray pictureBefore = bytesOf(cardPicturePath(1));
 
-    pupil([](editCard& editor) {
-        type(editor, 1, QStringLiteral("Beetle"));
-        session.Picture1.image.fill(Qt::yellow);
+    pupil([&](editCard& editor) {
+        type(editor, 1, u"Beetle"_s);
+        session.editor.Picture1.image.fill(Qt::yellow);
+        click(editor, "ok_but");
+        EXPECT_TRUE(editor.isVisible());
+        EXPECT_EQ(editor.DataBox[1]->text(), u"Beetle"_s);
+        EXPECT_THAT(recorded.messages, ElementsAre(u"Error|Disk full"_s));
+        EXPECT_EQ(record("AAAAAAAA"), before);
+        EXPECT_EQ(bytesOf(cardPicturePath(1)), pictureBefore);
+        EXPECT_EQ(session.cardValue[1][1], u"Ant"_s);
+        ballast.remove();
         click(editor, "ok_but");
     });
     openCardEditor(1);
-    EXPECT_EQ(session.dialogResult, QStringLiteral("OK"));
-    EXPECT_THAT(recorded.messages, IsEmpty());
-    EXPECT_EQ(record("AAAAAAAA"), before);
-    EXPECT_EQ(bytesOf(cardPicturePath(1)), pictureBefore);
-    EXPECT_EQ(session.cardValue[1][1], QStringLiteral("Ant"));
-    ballast.close();
+    EXPECT_EQ(session.dialogResult, u"OK"_s);
+    EXPECT_TRUE(record("AAAAAAAA").contains("Beetle"));
+    EXPECT_EQ(readPicture(cardPicturePath(1)).pixelColor(0, 0), QColor(Qt::yellow));
     ::umount(qPrintable(disk));
 }

@@ -10,23 +10,22 @@
 
 namespace {
 
-constexpr uid_t nobody = 65534;
+const User nobody{65534, {65534}};
 
 int toParent = -1;
 
-/// Counts what the running test has had to tell, its failed expectations among it.
+/// The number of results reported by the running test, including failed expectations.
 int partResults()
 {
     return testing::UnitTest::GetInstance()->current_test_info()->result()->total_part_count();
 }
 
-void dropRights()
+void become(const User& user)
 {
-    if (geteuid() != 0)
-        return;
-    const bool dropped = setgroups(0, nullptr) == 0 && setresgid(nobody, nobody, nobody) == 0 &&
-                         setresuid(nobody, nobody, nobody) == 0;
-    if (!dropped)
+    const gid_t own = user.groups.front();
+    const bool became = setgroups(user.groups.size(), user.groups.data()) == 0 &&
+                        setresgid(own, own, own) == 0 && setresuid(user.id, user.id, user.id) == 0;
+    if (!became)
         std::_Exit(2);
 }
 
@@ -77,13 +76,19 @@ void tellParent() { EXPECT_EQ(write(toParent, "!", 1), 1); }
 
 QStringList messagesWithoutRights(const std::function<void()>& routine)
 {
+    return messagesAs(nobody, routine);
+}
+
+QStringList messagesAs(const User& user, const std::function<void()>& routine)
+{
     int ends[2];
     EXPECT_EQ(pipe(ends), 0);
     Child child([&] {
-        dropRights();
+        if (geteuid() == 0)
+            become(user);
         recorded.messages.clear();
         routine();
-        const QByteArray said = recorded.messages.join(QLatin1Char('\n')).toUtf8();
+        const QByteArray said = recorded.messages.join(u'\n').toUtf8();
         EXPECT_EQ(write(ends[1], said.constData(), size_t(said.size())), said.size());
     });
     close(ends[1]);
@@ -91,5 +96,5 @@ QStringList messagesWithoutRights(const std::function<void()>& routine)
     const ssize_t length = read(ends[0], said, sizeof said);
     close(ends[0]);
     EXPECT_TRUE(child.succeeded());
-    return QString::fromUtf8(said, length).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+    return QString::fromUtf8(said, length).split(u'\n', Qt::SkipEmptyParts);
 }

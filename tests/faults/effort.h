@@ -1,11 +1,11 @@
-// How much the tests of faults do: a little in every run, all of it with --long.
+// The amount of work of the fault tests: a little in every run, much more with --long.
 #pragma once
 
 struct Effort {
-    int kills = 60;        // over all writers together
-    int unfinished = 1;    // of them that have to fall into the writing, or they tell nothing
-    int seconds = 2;       // that two programs share a folder
-    int lengthsApart = 61; // of the disks that are full at a length of the picture
+    int kills = 60;        // for all writers together
+    int unfinished = 1;    // of them that must interrupt a write; with fewer the test proves nothing
+    int seconds = 2;       // during which two programs share a folder
+    int lengthsApart = 61; // step between the lengths at which the disk is full while a picture is written
 };
 
 extern Effort effort;

@@ -1,4 +1,5 @@
-// A full disk, at every length of a file: the old file stays or the new one is there, and the pupil is told.
+// A disk that is full at every length of a file: either the old file is kept or the new one is complete, and
+// an error is shown.
 #include "faults/effort.h"
 #include "faults/smallDisk.h"
 #include "faults/writers.h"
@@ -7,9 +8,11 @@
 #include <csignal>
 #include <sys/resource.h>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-/// While it lives no file of this process can grow beyond so many bytes, as if the disk were full there.
+/// While it exists, no file of this process can grow beyond that many bytes, as if the disk were full.
 class FileSizeLimit {
 public:
     explicit FileSizeLimit(rlim_t bytes)
@@ -73,13 +76,13 @@ TEST_F(FullDisk, WithAnyRoomLeftHoldsTheOldFileOrTheNew)
         if (!disk.isThere())
             GTEST_SKIP() << "only root can mount a small disk";
         useFolder(disk.path());
-        const QString path = disk.path() + QLatin1Char('/') + QString::fromLatin1(writer.file);
+        const QString path = disk.path() + u'/' + QString::fromLatin1(writer.file);
         const QByteArray before = contentOf(writer, 0);
         const QByteArray after = contentOf(writer, 1);
         int refused = 0;
         int written = 0;
         for (qint64 room = 0; room <= after.size() + page; room += page) {
-            QFile::remove(disk.path() + QStringLiteral("/filler"));
+            QFile::remove(disk.path() + u"/filler"_s);
             writer.write(0);
             disk.leaveFree(room);
             recorded.messages.clear();

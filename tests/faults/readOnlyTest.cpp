@@ -1,13 +1,16 @@
-// Files and folders that may not be written: the old file stays, or the new one is there, and the pupil is
-// told.
+// Files and folders without write permission: either the old file is kept or the new one is complete, and an
+// error is shown.
 #include "faults/children.h"
 #include "faults/smallDisk.h"
 #include "faults/writers.h"
+#include "platform/pictureFile.h"
 #include "support/files.h"
 
 #include <QDir>
 
 #include <sys/stat.h>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -16,7 +19,7 @@ void setMode(const QString& path, mode_t mode)
     ASSERT_EQ(chmod(QFile::encodeName(path).constData(), mode), 0) << path.toStdString();
 }
 
-/// What a routine that tells its failures says; settings are written in silence.
+/// The message of a routine that reports its failures; writing settings doesn't.
 QStringList told(const Writer& writer, const char* message)
 {
     return *writer.fullMessage && *message ? QStringList(QString::fromLatin1(message)) : QStringList();
@@ -29,17 +32,14 @@ protected:
     ReadOnly()
     {
         setMode(testFolder(), 0755);
-        QDir(testFolder()).mkdir(QStringLiteral("folder"));
+        QDir(testFolder()).mkdir(u"folder"_s);
         useFolder(folder);
     }
     ~ReadOnly() override { setMode(folder, 0755); }
 
-    QString pathOf(const Writer& writer) const
-    {
-        return folder + QLatin1Char('/') + QLatin1String(writer.file);
-    }
+    QString pathOf(const Writer& writer) const { return folder + u'/' + QLatin1String(writer.file); }
 
-    const QString folder = inTestFolder(QStringLiteral("folder"));
+    const QString folder = inTestFolder(u"folder"_s);
 };
 
 TEST_F(ReadOnly, RightsDecideBetweenTheOldFileAndTheNew)
@@ -78,13 +78,13 @@ TEST_F(ReadOnly, RightsDecideBetweenTheOldFileAndTheNew)
 
 TEST_F(ReadOnly, AFolderThatVanishedIsTold)
 {
-    useFolder(inTestFolder(QStringLiteral("gone")));
+    useFolder(inTestFolder(u"gone"_s));
     for (const Writer& writer : writers) {
         recorded.messages.clear();
         EXPECT_TRUE(writer.write(1));
         EXPECT_EQ(recorded.messages, told(writer, "Error|Path not found")) << writer.name;
     }
-    EXPECT_FALSE(QFile::exists(inTestFolder(QStringLiteral("gone"))));
+    EXPECT_FALSE(QFile::exists(inTestFolder(u"gone"_s)));
 }
 
 TEST_F(ReadOnly, AWriteProtectedDiskIsTold)
@@ -100,27 +100,29 @@ TEST_F(ReadOnly, AWriteProtectedDiskIsTold)
         recorded.messages.clear();
         EXPECT_TRUE(writer.write(1));
         EXPECT_EQ(recorded.messages, told(writer, "Error|Permission denied")) << writer.name;
-        EXPECT_EQ(bytesOf(disk.path() + QLatin1Char('/') + QLatin1String(writer.file)), contentOf(writer, 0));
+        EXPECT_EQ(bytesOf(disk.path() + u'/' + QLatin1String(writer.file)), contentOf(writer, 0));
     }
 }
 
 TEST_F(ReadOnly, AFileOverwrittenWhereItStandsIsWholeOnAFullDisk)
 {
     int kept = 0;
+    QImage pixel(1, 1, QImage::Format_RGB32);
+    pixel.fill(Qt::red);
     for (const Writer& writer : writers) {
         const SmallDisk disk(128 << 10);
         if (!disk.isThere())
             GTEST_SKIP() << "only root can mount a small disk";
         useFolder(disk.path());
-        const QString path = disk.path() + QLatin1Char('/') + QLatin1String(writer.file);
+        const QString path = disk.path() + u'/' + QLatin1String(writer.file);
         writer.write(0);
-        const QByteArray before = bytesOf(path).left(20);
+        const QByteArray before = path.endsWith(u".bmp"_s) ? bitmapBytes(pixel) : bytesOf(path);
         putFile(path, before);
         setMode(path, 0666);
         setMode(disk.path(), 0555);
         disk.leaveFree(0);
         const QStringList said = messagesWithoutRights([&] { EXPECT_TRUE(writer.write(3)); });
-        // A short file still fits into the room that it has.
+        // A short file still fits into the space that it occupies.
         const bool refused = bytesOf(path) == before;
         EXPECT_TRUE(refused || bytesOf(path).size() < 4096) << writer.name;
         EXPECT_EQ(said, refused ? told(writer, "Error|Disk full") : QStringList()) << writer.name;

@@ -1,10 +1,11 @@
-// Two programs in one folder: no reader meets half a file, and no setting is lost.
+// Two programs in one folder: no reader sees half a file, and no setting is lost.
 #include "faults/children.h"
 #include "faults/effort.h"
 #include "faults/writers.h"
 
 #include "core/session.h"
 #include "store/cardFiles.h"
+#include "store/cardSaving.h"
 #include "store/descriptionFile.h"
 #include "store/settings.h"
 #include "support/files.h"
@@ -13,32 +14,34 @@
 
 #include <iostream>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-/// All values of a record and a description are this one text, and a picture has this one colour.
+/// All values of a record and a description are this text, and a picture has this single colour.
 void writeAll(const QString& token, uint colour)
 {
     session.cardValue[1][0] = token;
     for (int f = 1; f <= session.numFields; ++f) {
-        session.DataBox[f] = token;
+        session.editor.DataBox[f] = token;
         session.fieldName[f] = token;
     }
-    session.Picture1.image = QImage(159, 120, QImage::Format_RGB32);
-    session.Picture1.image.fill(colour);
+    session.editor.Picture1.image = QImage(159, 120, QImage::Format_RGB32);
+    session.editor.Picture1.image.fill(colour);
     saveCardValues(1);
     saveCardPicture(1);
     writeDbInfo();
 }
 
-/// What one of the two programs does. Its key is its own: nobody else may change it.
+/// The work of one of the two programs. Only this program changes its key in the settings.
 void work(const QString& key)
 {
     const QDeadlineTimer end(effort.seconds * 1000);
     for (int n = 1; !end.hasExpired(); ++n) {
         const QString number = QString::number(n);
         writeAll(key + number.repeated(n % 50 + 1), uint(n) * 0x050301u);
-        writeSetting(settingsFile(), QStringLiteral("Shared"), key, number);
-        ASSERT_EQ(readSetting(settingsFile(), QStringLiteral("Shared"), key, QStringLiteral("lost")), number);
+        writeSetting(settingsFile(), u"Shared"_s, key, number);
+        ASSERT_EQ(readSetting(settingsFile(), u"Shared"_s, key, u"lost"_s), number);
         ASSERT_TRUE(recorded.messages.isEmpty()) << recorded.messages.first().toStdString();
         if (n == 1)
             tellParent();
@@ -64,9 +67,9 @@ using Sharing = Fresh;
 TEST_F(Sharing, TwoProgramsNeitherTearAFileNorLoseASetting)
 {
     useFolder(testFolder().chopped(1));
-    writeAll(QStringLiteral("start"), 0xFFFFFF);
-    Child first([] { work(QStringLiteral("one")); });
-    Child second([] { work(QStringLiteral("two")); });
+    writeAll(u"start"_s, 0xFFFFFF);
+    Child first([] { work(u"one"_s); });
+    Child second([] { work(u"two"_s); });
     first.waitUntilTold();
     second.waitUntilTold();
 
@@ -80,11 +83,9 @@ TEST_F(Sharing, TwoProgramsNeitherTearAFileNorLoseASetting)
         const CardFields& card = session.cardValue[1];
         ASSERT_TRUE(allSame({card[0], card[1], card[2], card[3]})) << card[1].toStdString();
         ASSERT_TRUE(allSame({session.fieldName[1], session.fieldName[2], session.fieldName[3]}));
-        ASSERT_TRUE(hasOneColour(session.Picture1.image));
+        ASSERT_TRUE(hasOneColour(session.editor.Picture1.image));
         for (const char* key : {"one", "two"})
-            ASSERT_GT(
-                readSetting(settingsFile(), QStringLiteral("Shared"), QString::fromLatin1(key), {}).toInt(),
-                0);
+            ASSERT_GT(readSetting(settingsFile(), u"Shared"_s, QString::fromLatin1(key), {}).toInt(), 0);
         changes += std::exchange(lastRead, card[1]) != card[1];
         ASSERT_TRUE(recorded.messages.isEmpty()) << recorded.messages.first().toStdString();
     }

@@ -7,8 +7,10 @@
 #include <sys/mount.h>
 #include <sys/vfs.h>
 
+using namespace Qt::StringLiterals;
+
 SmallDisk::SmallDisk(int bytes)
-    : place(inTestFolder(QStringLiteral("disk")))
+    : place(inTestFolder(u"disk"_s))
 {
     QDir().mkpath(place);
     const QByteArray size = "size=" + QByteArray::number(bytes);
@@ -23,7 +25,7 @@ SmallDisk::~SmallDisk()
 
 void SmallDisk::leaveFree(qint64 bytes) const
 {
-    QFile filler(place + QStringLiteral("/filler"));
+    QFile filler(place + u"/filler"_s);
     filler.remove();
     struct statfs disk = {};
     ASSERT_EQ(statfs(place.toUtf8().constData(), &disk), 0);

@@ -1,11 +1,11 @@
-// A small disk of its own, so that a test can fill it or write-protect it.
+// A small disk that a test can fill or write-protect.
 #pragma once
 
 #include <QString>
 
 class SmallDisk {
 public:
-    /// Mounts a disk of so many bytes, in the memory, at path(). Only root can; see isThere().
+    /// Mounts a memory disk of that many bytes at path(). This needs root; see isThere().
     explicit SmallDisk(int bytes);
     ~SmallDisk();
     SmallDisk(const SmallDisk&) = delete;
@@ -14,7 +14,7 @@ public:
     bool isThere() const { return mounted; }
     QString path() const { return place; }
 
-    /// Fills it so that no more than so many bytes are left.
+    /// Fills the disk until at most that many bytes are free.
     void leaveFree(qint64 bytes) const;
     void writeProtect() const;
 

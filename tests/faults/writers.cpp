@@ -1,46 +1,61 @@
 #include "faults/writers.h"
 
 #include "core/session.h"
+#include "platform/wholeFile.h"
 #include "store/cardFiles.h"
+#include "store/cardSaving.h"
 #include "store/descriptionFile.h"
-#include "store/settings.h"
+#include "store/fileStates.h"
+#include "store/options.h"
 #include "support/files.h"
 
 #include <QDir>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-/// Texts of many lengths, the longest first but one.
+/// Texts of different lengths, up to 3000 characters.
 QString textOf(int version) { return QString(1 + version * 977 % 3000, QChar('a' + version % 26)); }
+
+/// A program has read what it writes over.
+void see(const QString& path)
+{
+    ignoringErrors({[&path] { readAndRemember(path, largestFile); }});
+}
 
 bool writeRecord(int version)
 {
-    session.cardValue[1][0] = QStringLiteral("00010002");
+    see(cardRecordPath(1));
+    session.cardValue[1][0] = u"00010002"_s;
     for (int f = 1; f <= session.numFields; ++f)
-        session.DataBox[f] = textOf(version);
+        session.editor.DataBox[f] = textOf(version);
     saveCardValues(1);
     return true;
 }
 
 bool writePicture(int version)
 {
-    session.Picture1.image = QImage(159, 120, QImage::Format_RGB32);
-    session.Picture1.image.fill(uint(version) * 0x010307u);
+    see(cardPicturePath(1));
+    session.editor.Picture1.image = QImage(159, 120, QImage::Format_RGB32);
+    session.editor.Picture1.image.fill(uint(version) * 0x010307u);
     saveCardPicture(1);
     return true;
 }
 
 bool writeDescription(int version)
 {
+    see(filePathIn(session.dbPath, descriptionName));
     for (int f = 1; f <= session.numFields; ++f)
         session.fieldName[f] = textOf(version);
     writeDbInfo();
     return true;
 }
 
-bool writeOneSetting(int version)
+bool writeTwoSettings(int version)
 {
-    return writeSetting(settingsFile(), QStringLiteral("Last DB"), QStringLiteral("Path"), textOf(version));
+    writeSettings({{option::lastDatabase, textOf(version)}, {option::savingFolder, textOf(version)}});
+    return true;
 }
 
 } // namespace
@@ -49,14 +64,14 @@ const std::array<Writer, 4> writers = {{
     {"saveCardValues", "CARDAAAA.tcd", "Error|Disk full", writeRecord},
     {"saveCardPicture", "CARDAAAA.bmp", "Error|Disk full", writePicture},
     {"writeDbInfo", "db-info.tdb", "Error|Disk full", writeDescription},
-    {"writeSetting", "tallymoor.ini", "", writeOneSetting},
+    {"writeSettings", "tallymoor.ini", "", writeTwoSettings},
 }};
 
 void useFolder(const QString& folder)
 {
     session.dbPath = folder;
-    session.cardId[1] = QStringLiteral("CARDAAAA");
-    desktop.programFolder = [folder] { return folder; };
+    session.cardId[1] = u"CARDAAAA"_s;
+    desktop.files.programFolder = [folder] { return folder; };
 }
 
 QByteArray contentOf(const Writer& writer, int version)
@@ -72,5 +87,5 @@ QByteArray contentOf(const Writer& writer, int version)
 
 QStringList leftoversIn(const QString& folder)
 {
-    return QDir(folder).entryList({QStringLiteral(".tallymoor~*")}, QDir::Files | QDir::Hidden);
+    return QDir(folder).entryList({u".tallymoor~*"_s}, QDir::Files | QDir::Hidden);
 }

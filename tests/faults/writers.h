@@ -1,5 +1,4 @@
-// Everything that writes into a database's folder or beside the program, in a form that faults can be tried
-// on.
+// All routines that write into a database's folder or beside the program, as a table for the fault tests.
 #pragma once
 
 #include <QByteArray>
@@ -9,9 +8,9 @@
 
 struct Writer {
     const char* name;
-    const char* file;           // that it replaces, in the test's folder
-    const char* fullMessage;    // what a full disk makes it say
-    bool (*write)(int version); // any number gives another content; tells what the routine returned
+    const char* file;           // the file that it replaces, in the test's folder
+    const char* fullMessage;    // its message on a full disk
+    bool (*write)(int version); // the content depends on the version; returns the routine's result
 };
 
 extern const std::array<Writer, 4> writers;
@@ -19,8 +18,8 @@ extern const std::array<Writer, 4> writers;
 /// Opens a database with one card in the folder; the settings lie there too.
 void useFolder(const QString& folder);
 
-/// What the file holds when that version was written over version 0.
+/// The file's content after that version was written over version 0.
 QByteArray contentOf(const Writer& writer, int version);
 
-/// What lies in the folder under the names of unfinished writes.
+/// The temporary files of unfinished writes in the folder.
 QStringList leftoversIn(const QString& folder);

@@ -1,5 +1,5 @@
-// Any bitmap is an error or a picture of which every pixel is told by the file: decoded twice, with other
-// contents in the memory that it gets, it is the same.
+// Any bitmap gives an error or a picture without uninitialised pixels: decoding it twice, with different
+// content in the memory that it is given, gives the same picture.
 #include "fuzz/fuzzSupport.h"
 #include "platform/errors.h"
 #include "platform/pictureFile.h"
@@ -18,7 +18,7 @@ int filling = 0x11;
 #ifdef TALLYMOOR_FUZZ
 void fillMemory(const volatile void* memory, size_t size)
 {
-    constexpr size_t zeroedAfterwards = 64 << 10; // calloc clears blocks up to here after this call
+    constexpr size_t zeroedAfterwards = 64 << 10; // calloc clears blocks up to this size after this hook
     if (size <= zeroedAfterwards)
         std::memset(const_cast<void*>(memory), filling, size);
 }

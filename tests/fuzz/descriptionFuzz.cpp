@@ -1,10 +1,13 @@
-// Any description reads to a session within its limits, and what was read survives writing and reading.
+// Reading any description gives a session within its limits, and writing and reading it again gives the same
+// one.
 #include "core/session.h"
 #include "fuzz/fuzzSupport.h"
 #include "platform/desktop.h"
 #include "store/descriptionFile.h"
 
 #include <algorithm>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -15,9 +18,8 @@ bool canBeWritten()
     const auto first = session.fieldName.begin() + 1;
     const bool names = std::all_of(first, first + session.numFields, canBeQuoted);
     const QString& status = session.databaseStatus;
-    const bool bare = !status.contains(QLatin1Char(',')) && !status.contains(QLatin1Char('\n')) &&
-                      !status.contains(QLatin1Char('\r')) && !status.startsWith(QLatin1Char('"')) &&
-                      status == status.trimmed();
+    const bool bare = !status.contains(u',') && !status.contains(u'\n') && !status.contains(u'\r') &&
+                      !status.startsWith(u'"') && status == status.trimmed();
     return names && bare && canBeQuoted(session.backgroundPicture);
 }
 
@@ -25,9 +27,9 @@ bool canBeWritten()
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
 {
-    openWith(QString::fromLatin1(descriptionName), inputBytes(data, size));
+    openWith(descriptionName, inputBytes(data, size));
     problems = 0;
-    desktop.showMessage = [](MessageIcon, const QString&, const QString&) { ++problems; };
+    desktop.boxes.showMessage = [](MessageIcon, const QString&, const QString&) { ++problems; };
 
     readDbInfo();
     mustHold(session.numFields >= 1 && session.numFields <= 12, "one to twelve fields");
@@ -35,7 +37,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
     mustHold(problems <= 1 + 1 + 3 + 12 * 15 + 2, "no more messages than statements");
 
     for (int f = 1; f <= session.numFields; ++f) {
-        session.fieldType[f] = QStringLiteral("Abc");
+        session.fieldType[f] = u"Abc"_s;
         session.fieldListItem[f] = {};
     }
     if (!canBeWritten())

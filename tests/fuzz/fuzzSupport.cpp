@@ -3,11 +3,14 @@
 #include "core/session.h"
 #include "platform/desktop.h"
 
+#include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
 
 #include <cstdio>
 #include <cstdlib>
+
+using namespace Qt::StringLiterals;
 
 void mustHold(bool condition, const char* text)
 {
@@ -24,7 +27,7 @@ QByteArray inputBytes(const uint8_t* data, size_t size)
 
 QString fuzzFolder()
 {
-    static const QTemporaryDir folder(QStringLiteral("/dev/shm/tallymoor-fuzz-XXXXXX"));
+    static const QTemporaryDir folder(u"/dev/shm/tallymoor-fuzz-XXXXXX"_s);
     return folder.path();
 }
 
@@ -32,13 +35,15 @@ void openWith(const QString& name, const QByteArray& bytes)
 {
     session = {};
     session.dbPath = fuzzFolder();
-    session.cardId[1] = QStringLiteral("CARDAAAA");
+    session.cardId[1] = u"CARDAAAA"_s;
     resetFieldTable();
-    desktop.beep = [] {};
-    desktop.showMessage = [](MessageIcon, const QString&, const QString&) {};
-    QFile file(fuzzFolder() + QLatin1Char('/') + name);
+    desktop.sound.beep = [] {};
+    desktop.boxes.showMessage = [](MessageIcon, const QString&, const QString&) {};
+    desktop.now = [] { return QDateTime({2026, 3, 9}, {10, 30}); };
+    QDir(fuzzFolder() + u"/.kept"_s).removeRecursively();
+    QFile file(fuzzFolder() + u'/' + name);
     mustHold(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size(),
              "the folder can be written");
 }
 
-bool canBeQuoted(const QString& text) { return !text.contains(QLatin1Char('"')); }
+bool canBeQuoted(const QString& text) { return !text.contains(u'"'); }

@@ -1,4 +1,4 @@
-// What the fuzz targets share: a quiet desktop, a folder in memory, and a check that is no assertion.
+// Shared by the fuzz targets: a desktop without output, a folder in memory, and a check without GoogleTest.
 #pragma once
 
 #include <QByteArray>
@@ -9,15 +9,16 @@
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size);
 
-/// Ends the program with the text when the condition doesn't hold, so that the fuzzer keeps the input.
+/// Aborts with the text when the condition is false, so that the fuzzer keeps the input.
 void mustHold(bool condition, const char* text);
 
-/// The bytes the fuzzer made.
+/// The fuzzer's bytes.
 QByteArray inputBytes(const uint8_t* data, size_t size);
 
-/// A new session in a folder of this process's own, whose file `name` holds the bytes. Messages go nowhere.
+/// A new session in a folder of this process only, whose file `name` contains the bytes. Messages are
+/// dropped.
 void openWith(const QString& name, const QByteArray& bytes);
 QString fuzzFolder();
 
-/// A text that the files' format, where nothing is escaped, can hold between quotes.
+/// Whether the file format, which has no escapes, can hold this text between quotes.
 bool canBeQuoted(const QString& text);

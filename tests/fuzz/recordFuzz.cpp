@@ -1,20 +1,23 @@
-// Any record reads, and what was read survives writing and reading.
+// Any record can be read, and writing and reading it again gives the same values.
 #include "core/session.h"
 #include "fuzz/fuzzSupport.h"
 #include "store/cardFiles.h"
+#include "store/cardSaving.h"
 
 #include <algorithm>
 
+using namespace Qt::StringLiterals;
+
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
 {
-    openWith(QStringLiteral("CARDAAAA.tcd"), inputBytes(data, size));
+    openWith(u"CARDAAAA.tcd"_s, inputBytes(data, size));
     session.numFields = 12;
     loadCardValues(1);
     const CardFields read = session.cardValue[1];
     if (!std::all_of(read.begin(), read.end(), canBeQuoted))
         return 0;
 
-    session.DataBox = read;
+    session.editor.DataBox = read;
     saveCardValues(1);
     loadCardValues(1);
     mustHold(session.cardValue[1] == read, "what was written is read");

@@ -1,4 +1,4 @@
-// Runs a target over every file in the folders that are named.
+// Runs a target on every file in the folders given as arguments.
 #include "fuzz/fuzzSupport.h"
 
 #include <QDir>

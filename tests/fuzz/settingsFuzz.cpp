@@ -1,22 +1,23 @@
-// Whatever a settings file holds, writing a key makes it readable and leaves the others.
+// With any settings file, a key that was written can be read back, and the others are unchanged.
 #include "fuzz/fuzzSupport.h"
 #include "store/settings.h"
 
+using namespace Qt::StringLiterals;
+
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
 {
-    const QString name = QStringLiteral("tallymoor.ini");
+    const QString name = u"tallymoor.ini"_s;
     openWith(name, inputBytes(data, size));
-    const QString file = fuzzFolder() + QLatin1Char('/') + name;
+    const QString file = fuzzFolder() + u'/' + name;
     const auto read = [&](const char* section, const char* key) {
-        return readSetting(file, QString::fromLatin1(section), QString::fromLatin1(key),
-                           QStringLiteral("absent"));
+        return readSetting(file, QString::fromLatin1(section), QString::fromLatin1(key), u"absent"_s);
     };
     const QString sameSection = read("S", "other");
     const QString otherSection = read("T", "key");
     mustHold(sameSection.size() <= 199 && otherSection.size() <= 199, "values fit the buffer");
 
     for (const char* value : {"1", "a much longer value", ""}) {
-        writeSetting(file, QStringLiteral("S"), QStringLiteral("key"), QString::fromLatin1(value));
+        writeSetting(file, u"S"_s, u"key"_s, QString::fromLatin1(value));
         mustHold(read("S", "key") == QLatin1String(value), "what was written is read");
     }
     mustHold(read("S", "other") == sameSection && read("T", "key") == otherSection,

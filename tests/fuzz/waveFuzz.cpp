@@ -1,4 +1,4 @@
-// Any bytes are a sound or an error, and a sound survives writing and reading.
+// Any bytes give a sound or an error, and writing and reading a sound gives the same sound.
 #include "fuzz/fuzzSupport.h"
 #include "platform/errors.h"
 #include "platform/wave.h"

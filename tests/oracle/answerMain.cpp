@@ -1,6 +1,6 @@
 // The program's own answers to the cases of cases.py: reads a case a line, runs each tool and prints a line.
 #include "board/places.h"
-#include "core/screen.h"
+#include "core/mainView.h"
 #include "core/session.h"
 #include "platform/desktop.h"
 #include "tools/arranging.h"
@@ -19,9 +19,11 @@
 #include <iostream>
 #include <string>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-/// A value that was never read: Qt tells such an empty text from one that was typed and deleted again.
+/// A value that was never read is a null QString, which differs from an empty one.
 QString cardText(const QJsonValue& value)
 {
     const QString text = value.toString();
@@ -31,16 +33,16 @@ QString cardText(const QJsonValue& value)
 QString typedText(const QJsonValue& value)
 {
     const QString text = value.toString();
-    return text.isEmpty() ? QString(QLatin1String("")) : text;
+    return text.isEmpty() ? QString(""_L1) : text;
 }
 
 void takeBoard(const QJsonObject& given)
 {
     session = {};
     resetFieldTable();
-    session.caseSensitive = given["caseSensitive"].toBool();
-    session.boardWidth = given["board"][0].toDouble();
-    session.boardHeight = given["board"][1].toDouble();
+    session.options.caseSensitive = given["caseSensitive"].toBool();
+    session.board.width = given["board"][0].toDouble();
+    session.board.height = given["board"][1].toDouble();
     session.cardWidth = given["cardSize"][0].toDouble();
     session.cardHeight = given["cardSize"][1].toDouble();
     resetCardTable();
@@ -82,7 +84,7 @@ void takeConditions(const QJsonObject& given)
         session.andOr[join] = given["andOr"][join].toString();
 }
 
-/// Each tool begins afresh from this.
+/// The initial state for each tool.
 void take(const QJsonObject& given)
 {
     takeBoard(given);
@@ -90,7 +92,7 @@ void take(const QJsonObject& given)
     takeConditions(given);
 }
 
-/// What the cards give, in their order.
+/// The function's result for each card, in order.
 template <class Part>
 QJsonArray ofCards(Part part)
 {
@@ -133,7 +135,7 @@ QJsonArray regionCounts()
     return {counts[0], counts[1], counts[2], counts[3]};
 }
 
-/// How many cards stand over the label.
+/// The number of cards in the column above the label.
 int cardsInColumn(const BoardLabel& label)
 {
     int count = 0;
@@ -147,8 +149,8 @@ int cardsInColumn(const BoardLabel& label)
 QJsonArray groups()
 {
     QJsonArray shown;
-    for (int g = 1; g <= session.numGroups; ++g) {
-        const BoardLabel& label = session.GroupLabel[g];
+    for (int g = 1; g <= session.groupTable.numGroups; ++g) {
+        const BoardLabel& label = session.board.groupTitle[g];
         shown.append(QJsonArray{label.text, cardsInColumn(label)});
     }
     return shown;
@@ -191,13 +193,14 @@ QJsonObject answerTo(const QJsonObject& given)
 
 void connectSeams(const double& speed, const double& labelHeight)
 {
-    desktop.beep = [] {};
-    desktop.showMessage = [](MessageIcon, const QString&, const QString&) {}; // sorting no cards is reported
+    desktop.sound.beep = [] {};
+    desktop.boxes.showMessage = [](MessageIcon, const QString&, const QString&) {
+    }; // sorting an empty database reports an error
     desktop.yield = [] {};
-    screen = blankScreen();
-    screen.showSpeedWindow = [&speed] { session.animationSpeed = speed; };
-    screen.unloadSpeedWindow = stopRun;
-    screen.measureLabel = [&labelHeight](const QString&, double& width, double& height) {
+    mainView = blankMainView();
+    mainView.showSpeedWindow = [&speed] { session.run.animationSpeed = speed; };
+    mainView.unloadSpeedWindow = stopRun;
+    mainView.measureLabel = [&labelHeight](const QString&, double& width, double& height) {
         width = 100;
         height = labelHeight;
     };

@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Prints random cases for the second reading, one line of JSON each: cases.py SEED COUNT.
+"""Prints random cases for the second implementation, one line of JSON each: cases.py SEED COUNT.
 
 The same seed gives the same cases. Values come from short lists that hold the traps, so that ties, shared columns
 and answers of every kind are common.

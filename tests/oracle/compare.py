@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Compares the program's answers with the second reading's: compare.py PROGRAM SEED COUNT.
+"""Compares the program's answers with the second implementation's: compare.py PROGRAM SEED COUNT.
 
 PROGRAM is build/dev/bin/oracle_answers. Before that, each planted mistake makes the second reading wrong in one rule:
 a comparison that doesn't notice it is worth nothing, and fails. The first differing case is printed whole.
@@ -18,12 +18,14 @@ READING = Path(__file__).with_name("oracle.py")
 TOLERANCE = 1e-6  # pixels
 CASES_FOR_MISTAKES = 150
 
-# A line of the second reading, and a mistake that is easily made in its place.
+# A line of the second implementation, and an easy mistake to plant in its place.
 MISTAKES = {
     "equal keys from the lowest number up": ("range(self.n, 0, -1), key", "range(1, self.n + 1), key"),
     "'orand' read from left to right": ("a or (b and c)", "(a or b) and c"),
     "a twelfth group": ("LAST_COLUMN = 48, 132, 11", "LAST_COLUMN = 48, 132, 12"),
     "Venn places cut instead of rounded": ("round(round(x) - w / 2)", "math.floor(round(x) - w / 2)"),
+    "circles that barely meet left where they are": ("lens = max(2 * d - field, min(room, d / 2))", "lens = 2 * d - field"),
+    "cards of one set let into the other circle": ("max(math.pi - ARC, angle)", "math.pi - ARC"),
     "tall columns not squeezed": ("if base - tallest * step < self.top0", "if False"),
 }
 
@@ -51,7 +53,7 @@ def differs(one, other):
 
 
 def difference(case, program, second):
-    """What differs, told for somebody who wants to know who is right; None when all agrees."""
+    """A readable report of the differences; None when both agree."""
     for key in second:
         if differs(program.get(key), second[key]):
             return f"{key}\n  case    {json.dumps(case)}\n  program {program.get(key)}\n  second  {second[key]}"

@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""A second reading of the rules of find, sort, group and arrange, written apart from the program.
+"""A second implementation of the rules of find, sort, group and arrange, written independently of the program.
 
 Reads one case per line (JSON, see README.md) and answers one line of JSON each: what every card tool shows at its
 end when it begins from the case's start and nobody stops it.
@@ -13,6 +13,7 @@ from operator import eq, ge, gt, le, lt, ne
 LEADING_NUMBER = re.compile(r"[ \t]*([+-]?(?:[0-9]+\.?[0-9]*|\.[0-9]+)(?:[Ee][+-]?[0-9]+)?)")
 LARGEST = sys.float_info.max
 VENN_TOP, LEFT_CIRCLE, LAST_COLUMN = 48, 132, 11
+GAP, ARC = 2, 3.455752015113831  # pixels beside a circle; 198 degrees
 
 
 def number(text):
@@ -61,7 +62,7 @@ class Case:
         return int(test(read(card[row["field"] - 1]), read(row["value"])))
 
     def found(self):
-        """One truth per card; None when the joined words are no rule: then no card moves."""
+        """Whether each card matches; None when the joined words are no rule: then no card moves."""
         rule = FIND_RULES.get("".join(self.andOr))
         return rule and [int(rule(*tests)) for tests in self.conditions]
 
@@ -76,18 +77,41 @@ class Case:
                 place[1] = target
         return places
 
+    def circles(self):
+        """Diameter, left edges and common top. They lie between 132 pixels from the left and 43 from the right."""
+        room, field = 1.5 * self.w, self.width - 43 - LEFT_CIRCLE
+        d = min(self.height - 145, field - room)
+        lens = max(2 * d - field, min(room, d / 2))
+        left = LEFT_CIRCLE + (field - 2 * d + lens) / 2
+        return d, left, left + d - lens, VENN_TOP + 73
+
+    def first_angle(self, r, arc, apart):
+        """Where a card on the arc leaves the other circle: by its corner, or by its side when it is level with the
+        centre."""
+        side, corner = apart - self.w / 2 - GAP, self.h / 2 + GAP
+        turn = (r * r - side * side - corner * corner - arc * arc) / (2 * arc * math.hypot(side, corner))
+        angle = math.atan2(corner, side) + math.asin(max(-1, min(1, turn)))
+        if arc * math.cos(angle) < corner:
+            angle = math.asin(max(-1, min(1, (r - side) / arc)))
+        return max(math.pi - ARC, angle)
+
     def venn(self):
-        d = self.height - 55 - 90
-        r, w, h, left, top, left2 = d / 2, self.w, self.h, LEFT_CIRCLE, VENN_TOP + 73, self.width - d - 43
-        inner, regions = r - 0.75 * w, [(1, 1), (1, 0), (0, 1), (0, 0)]
+        w, h, (d, left, left2, top) = self.w, self.h, self.circles()
+        r, apart, regions = d / 2, left2 - left, [(1, 1), (1, 0), (0, 1), (0, 0)]
+        arc = max(r - 0.75 * w, r - apart + w / 2 + GAP)
+        first = self.first_angle(r, arc, apart)
+        reach = max(0, math.sqrt(max(0, r * r - ((apart + w) / 2 + GAP) ** 2)) - GAP - h / 2)
         lies_in = [regions.index(tuple(tests[:2])) for tests in self.conditions]
         places = []
         for i, region in enumerate(lies_in):
             part = lies_in[:i].count(region) / lies_in.count(region)
-            a = part * 3.455752015113831
-            x, y = [((left + r + left2 + r) / 2, top + h / 2 + 0.4 * r + part * (1.2 * r - h / 2)),
-                    ((left + r) - inner * math.sin(a), (top + r) + inner * math.cos(a)),
-                    ((left2 + r) + inner * math.sin(a), (top + r) + inner * math.cos(a)),
+            a = part * (math.pi - first) if first <= 0 else math.pi / 2 + (2 * part - 1) * (math.pi / 2 - first)
+            column = top + h / 2 + 0.4 * r + part * min(1.2 * r - h / 2, 0.6 * r - h / 2 + reach)
+            if reach < 0.6 * r - h / 2:
+                column = top + r + (2 * part - 1) * reach
+            x, y = [((left + r + left2 + r) / 2, column),
+                    ((left + r) - arc * math.sin(a), (top + r) + arc * math.cos(a)),
+                    ((left2 + r) + arc * math.sin(a), (top + r) + arc * math.cos(a)),
                     (w, top + part * 2 * r)][region]
             places.append([round(round(x) - w / 2), round(round(y) - h / 2)])
         return {"counts": [lies_in.count(region) for region in range(4)], "places": places}

@@ -5,6 +5,8 @@
 #include <QGuiApplication>
 #include <QPalette>
 
+using namespace Qt::StringLiterals;
+
 TEST(Colour, IsReadAsTheSettingsSpellIt)
 {
     const std::pair<const char*, QColor> cases[] = {
@@ -23,6 +25,6 @@ TEST(Colour, OfTheDesktopComesFromItsPalette)
     const QPalette palette = QGuiApplication::palette();
     for (const char* face : {"&H8000000F", "2147483663", "-2147483633"})
         EXPECT_EQ(colourOf(QString::fromLatin1(face)), palette.color(QPalette::Button)) << face;
-    EXPECT_EQ(colourOf(QStringLiteral("&H8000000D")), palette.color(QPalette::Highlight));
-    EXPECT_EQ(colourOf(QStringLiteral("&H80000019")), QColor(Qt::black)) << "beyond the last of them";
+    EXPECT_EQ(colourOf(u"&H8000000D"_s), palette.color(QPalette::Highlight));
+    EXPECT_EQ(colourOf(u"&H80000019"_s), QColor(Qt::black)) << "beyond the last of them";
 }

@@ -7,6 +7,8 @@
 #include <semaphore>
 #include <thread>
 
+using namespace Qt::StringLiterals;
+
 using ErrandsTest = Fresh;
 
 namespace {
@@ -40,7 +42,7 @@ TEST_F(ErrandsTest, AnErrorInTheWorkGivesAnEmptyResultAndOneAfterwardsIsShown)
                      throw RuntimeError(diskFull);
                  });
     EXPECT_TRUE(QTest::qWaitFor([] { return !recorded.messages.isEmpty(); }, patience));
-    EXPECT_EQ(recorded.messages.first(), QStringLiteral("Error|Disk full"));
+    EXPECT_EQ(recorded.messages.first(), u"Error|Disk full"_s);
 }
 
 TEST_F(ErrandsTest, ForgottenOnesNeverComeBackAndHoldUpNobody)
@@ -53,7 +55,7 @@ TEST_F(ErrandsTest, ForgottenOnesNeverComeBackAndHoldUpNobody)
     bool came = false;
     {
         Errands errands;
-        for (int i = 0; i < 8; ++i) // more than work at a time
+        for (int i = 0; i < 8; ++i) // more than run at a time
             errands.send(
                 [share](const Errands::Forgotten&) {
                     ++share->callers;
@@ -67,8 +69,10 @@ TEST_F(ErrandsTest, ForgottenOnesNeverComeBackAndHoldUpNobody)
         bool later = false;
         errands.send([](const Errands::Forgotten&) { return true; }, [&](bool result) { later = result; });
         EXPECT_TRUE(QTest::qWaitFor([&] { return later; }, patience));
-    } // the end waits for nobody
+    } // the destructor doesn't wait
     share->comesBack.release(4);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return share.use_count() == 1; }, patience))
+        << "all threads have ended";
     QCoreApplication::processEvents();
     EXPECT_FALSE(came);
     EXPECT_EQ(share->callers, 4);

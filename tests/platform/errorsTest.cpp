@@ -2,6 +2,8 @@
 
 #include "support/freshStart.h"
 
+using namespace Qt::StringLiterals;
+
 using testing::ElementsAre;
 
 using Errors = Fresh;
@@ -15,7 +17,7 @@ TEST_F(Errors, TheBoxTellsTheErrorsOwnDescriptionAndTheStateReachedStays)
     }));
     EXPECT_EQ(reached, 1);
     EXPECT_EQ(recorded.beeps, 1);
-    EXPECT_THAT(recorded.messages, ElementsAre(QStringLiteral("Error|Disk full")));
+    EXPECT_THAT(recorded.messages, ElementsAre(u"Error|Disk full"_s));
 }
 
 TEST_F(Errors, EveryStepRunsAndEveryFailureIsTold)

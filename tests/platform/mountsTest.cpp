@@ -2,6 +2,8 @@
 
 #include "support/freshStart.h"
 
+using namespace Qt::StringLiterals;
+
 using testing::ElementsAre;
 
 namespace {
@@ -9,9 +11,8 @@ namespace {
 QStringList told(const QByteArray& table, int from = 2)
 {
     QStringList lines;
-    for (const Volume& volume :
-         drives(table, [](const QString& device) { return device == QLatin1String("/dev/sdb1"); }))
-        lines.append(QStringLiteral("%1 %2 %3").arg(volume.name, volume.root).arg(volume.kind));
+    for (const Volume& volume : drives(table, [](const QString& device) { return device == "/dev/sdb1"_L1; }))
+        lines.append(u"%1 %2 %3"_s.arg(volume.name, volume.root).arg(volume.kind));
     return lines.mid(from);
 }
 
@@ -28,10 +29,8 @@ TEST(Mounts, OnlyMediaThatAPupilMayWantAreDrives)
                      "smbnetfs /home/anna/Net fuse.smbnetfs rw 0 0\n"
                      "/dev/sr0 /cdrom iso9660 ro 0 0\n"
                      "broken line\n"),
-                ElementsAre(QStringLiteral("(STICK) /mnt/stick 2"),
-                            QStringLiteral("(RED STICK) /media/anna/RED STICK 2"),
-                            QStringLiteral("(CLASS3) /srv/class3 4"),
-                            QStringLiteral("(NET) /home/anna/Net 4"), QStringLiteral("(CDROM) /cdrom 5")));
+                ElementsAre(u"(STICK) /mnt/stick 2"_s, u"(RED STICK) /media/anna/RED STICK 2"_s,
+                            u"(CLASS3) /srv/class3 4"_s, u"(NET) /home/anna/Net 4"_s, u"(CDROM) /cdrom 5"_s));
 }
 
 TEST(Mounts, EightDrivesAreTheMost)

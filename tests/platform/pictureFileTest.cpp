@@ -5,6 +5,8 @@
 #include <QBuffer>
 #include <QtEndian>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QImage sample(QImage::Format format = QImage::Format_RGB32)
@@ -25,7 +27,7 @@ QByteArray encoded(const QImage& picture, const char* format)
     return buffer.data();
 }
 
-/// A bitmap put together field by field.
+/// A bitmap built field by field.
 struct Bitmap {
     quint32 headerSize = 40;
     qint32 width = 2;
@@ -57,6 +59,20 @@ struct Bitmap {
     }
 };
 
+/// A photo as a phone writes it: taken upright, stored on its side, with a mark that says so.
+QByteArray photo(QSize stored)
+{
+    QImage picture(stored, QImage::Format_RGB32);
+    picture.fill(Qt::white);
+    for (int y = 0; y < stored.height(); ++y) {
+        for (int x = 0; x < stored.width() / 4; ++x)
+            picture.setPixelColor(x, y, Qt::red); // the left becomes the top
+    }
+    const QByteArray turned("Exif\0\0MM\0*\0\0\0\x08\0\x01\x01\x12\0\x03\0\0\0\x01\0\x06\0\0\0\0\0\0", 32);
+    QByteArray file = encoded(picture, "JPG");
+    return file.insert(2, QByteArray("\xFF\xE1\0\x22", 4) + turned);
+}
+
 } // namespace
 
 using PictureFile = Fresh;
@@ -74,15 +90,15 @@ TEST_F(PictureFile, ABitmapReadsBackPixelForPixel)
 
 TEST_F(PictureFile, GoesByContentAndTellsWhatIsMissing)
 {
-    const QString path = inTestFolder(QStringLiteral("picture.bmp"));
+    const QString path = inTestFolder(u"picture.bmp"_s);
     putFile(path, encoded(sample(), "PNG"));
     EXPECT_EQ(readPicture(path).size(), QSize(13, 7));
     putFile(path, "no picture");
     EXPECT_EQ(errorOf([&] { readPicture(path); }), invalidPicture);
     putFile(path, QByteArray());
     EXPECT_EQ(errorOf([&] { readPicture(path); }), invalidPicture);
-    EXPECT_EQ(errorOf([] { readPicture(inTestFolder(QStringLiteral("none"))); }), fileNotFound);
-    EXPECT_EQ(errorOf([] { readPicture(inTestFolder(QStringLiteral("none/none"))); }), pathNotFound);
+    EXPECT_EQ(errorOf([] { readPicture(inTestFolder(u"none"_s)); }), fileNotFound);
+    EXPECT_EQ(errorOf([] { readPicture(inTestFolder(u"none/none"_s)); }), pathNotFound);
 }
 
 TEST_F(PictureFile, ABitmapCutShortAnywhereIsNone)
@@ -145,12 +161,15 @@ TEST_F(PictureFile, AColourThatThePaletteLacksIsBlack)
 
 TEST_F(PictureFile, WhatADamagedFileDoesNotTellIsTheSameEveryTime)
 {
-    // Run lengths that end at once leave every pixel untold; other formats are cut in the middle.
+    // Run-length data that ends at once sets no pixel; other formats are truncated in the middle.
+    QByteArray colours(1024, '\0');
+    for (int i = 0; i < 256; ++i)
+        colours[4 * i] = char(i); // all different
     const Bitmap ended{.width = 40,
                        .height = 40,
                        .bits = 8,
                        .compression = 1,
-                       .palette = QByteArray(1024, 'p'),
+                       .palette = colours,
                        .pixels = QByteArray("\x00\x01", 2)};
     QList<QByteArray> files = {ended.bytes()};
     for (const char* format : {"PNG", "JPG", "PPM"}) {
@@ -163,7 +182,7 @@ TEST_F(PictureFile, WhatADamagedFileDoesNotTellIsTheSameEveryTime)
             std::vector<QImage> dirt(20, QImage(40, 40, QImage::Format_ARGB32));
             for (QImage& image : dirt)
                 image.fill(uint(filling) * 0x01010101u);
-            dirt.clear(); // leaves its pixels in the memory that comes next
+            dirt.clear(); // its pixels stay in memory that is reused next
             ignoringErrors({[&] { decodings.push_back(decodePicture(file)); }});
         }
         if (decodings.size() == 2)
@@ -171,4 +190,38 @@ TEST_F(PictureFile, WhatADamagedFileDoesNotTellIsTheSameEveryTime)
         else
             EXPECT_TRUE(decodings.empty());
     }
+}
+
+TEST_F(PictureFile, APhotoComesUprightAndNoLargerThanNeeded)
+{
+    struct Case {
+        QSize needed, decoded;
+    };
+    const Case cases[] = {
+        {{}, {300, 400}},
+        {{60, 40}, {60, 80}}, // covered in the photo's own proportions
+        {{10, 80}, {60, 80}},
+        {{600, 40}, {300, 400}}, // never larger than it is
+    };
+    for (const auto& [needed, size] : cases) {
+        const QImage upright = decodePicture(photo({400, 300}), needed);
+        EXPECT_EQ(upright.size(), size) << needed.width();
+        const auto red = [&](int x, int y) { return QColor(upright.pixel(x, y)).green() < 100; };
+        EXPECT_TRUE(red(2, 2));
+        EXPECT_TRUE(red(size.width() - 2, size.height() / 5));
+        EXPECT_FALSE(red(size.width() / 2, size.height() / 3));
+    }
+}
+
+TEST_F(PictureFile, AHugePhotoIsNotRefusedWhenAFaceOfItIsNeeded)
+{
+    QImage huge(12000, 9000, QImage::Format_Grayscale8);
+    huge.fill(0x60);
+    EXPECT_EQ(decodePicture(encoded(huge, "JPG"), {318, 240}).size(), QSize(320, 240));
+}
+
+TEST_F(PictureFile, ADrawingThatCouldReadOtherFilesIsNone)
+{
+    const QByteArray drawing = "<svg xmlns='http://www.w3.org/2000/svg' width='9' height='9'/>";
+    EXPECT_EQ(errorOf([&] { decodePicture(drawing); }), invalidPicture);
 }

@@ -3,18 +3,20 @@
 #include "platform/textFile.h"
 #include "support/files.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-QString profile() { return inTestFolder(QStringLiteral("some.ini")); }
+QString profile() { return inTestFolder(u"some.ini"_s); }
 
-QString read(const char* section, const char* key, const QString& absent = QStringLiteral("absent"))
+QString read(const char* section, const char* key, const QString& absent = u"absent"_s)
 {
     return readProfile(QString::fromUtf8(section), QString::fromUtf8(key), absent, profile());
 }
 
 bool write(const char* section, const char* key, const QString& value)
 {
-    return writeProfile(QString::fromUtf8(section), QString::fromUtf8(key), value, profile());
+    return writeProfile({{QString::fromUtf8(section), QString::fromUtf8(key), value}}, profile());
 }
 
 } // namespace
@@ -59,11 +61,11 @@ TEST_F(ProfileFile, ReadsAsThePlatformsOwnFunctionsDo)
 
 TEST_F(ProfileFile, CutsAtTheReadersBuffer)
 {
-    const QString longText(300, QLatin1Char('x'));
+    const QString longText(300, u'x');
     EXPECT_TRUE(write("S", "K", longText));
     EXPECT_EQ(read("S", "K").size(), 199);
     EXPECT_EQ(read("S", "missing", longText).size(), 199);
-    EXPECT_EQ(read("S", "missing", QStringLiteral(" x  ")), QStringLiteral(" x"));
+    EXPECT_EQ(read("S", "missing", u" x  "_s), u" x"_s);
 }
 
 TEST_F(ProfileFile, WritingChangesOneLineOnly)
@@ -86,7 +88,7 @@ TEST_F(ProfileFile, WritingChangesOneLineOnly)
     };
     for (const auto& [before, section, key, after] : cases) {
         putFile(profile(), before);
-        EXPECT_TRUE(write(section, key, QStringLiteral("v")));
+        EXPECT_TRUE(write(section, key, u"v"_s));
         EXPECT_EQ(bytesOf(profile()), after) << before.toStdString();
     }
 }
@@ -94,11 +96,11 @@ TEST_F(ProfileFile, WritingChangesOneLineOnly)
 TEST_F(ProfileFile, AnyValueKeepsTheOthersReadable)
 {
     putFile(profile(), "[S]\r\nfirst=B\xE4r\r\n");
-    write("S", "second", QStringLiteral("Łódź"));
-    write("S", "third", QStringLiteral("two\r\n[T]\nlines"));
-    EXPECT_EQ(read("S", "first"), QStringLiteral("Bär"));
-    EXPECT_EQ(read("S", "second"), QStringLiteral("Łódź"));
-    EXPECT_EQ(read("S", "third"), QStringLiteral("two  [T] lines"));
+    write("S", "second", u"Łódź"_s);
+    write("S", "third", u"two\r\n[T]\nlines"_s);
+    EXPECT_EQ(read("S", "first"), u"Bär"_s);
+    EXPECT_EQ(read("S", "second"), u"Łódź"_s);
+    EXPECT_EQ(read("S", "third"), u"two  [T] lines"_s);
 }
 
 TEST_F(ProfileFile, WhatCannotBeReadIsNotReplaced)
@@ -106,7 +108,7 @@ TEST_F(ProfileFile, WhatCannotBeReadIsNotReplaced)
     QFile file(profile());
     ASSERT_TRUE(file.open(QIODevice::WriteOnly));
     ASSERT_TRUE(file.resize(qint64(5) << 30)); // larger than any profile is
-    EXPECT_EQ(read("S", "k"), QStringLiteral("absent"));
-    EXPECT_FALSE(write("S", "k", QStringLiteral("v")));
+    EXPECT_EQ(read("S", "k"), u"absent"_s);
+    EXPECT_FALSE(write("S", "k", u"v"_s));
     EXPECT_EQ(file.size(), qint64(5) << 30);
 }

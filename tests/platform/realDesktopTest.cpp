@@ -10,16 +10,22 @@
 #include <QTest>
 #include <QTimer>
 
+using namespace Qt::StringLiterals;
+
 class RealDesktop : public Fresh {
 protected:
     RealDesktop() { installDesktop(); }
 
-    /// Acts on the message box that the next call opens.
-    static void meanwhile(const std::function<void(QMessageBox&)>& act)
+    ~RealDesktop() override { EXPECT_EQ(boxesSeen, boxesExpected); }
+
+    /// Queues an action on the message box that the next call opens.
+    void meanwhile(const std::function<void(QMessageBox&)>& act)
     {
-        QTimer::singleShot(0, qApp, [act] {
+        ++boxesExpected;
+        QTimer::singleShot(0, qApp, [this, act] {
             auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
             ASSERT_TRUE(box);
+            ++boxesSeen;
             act(*box);
             if (box->isVisible()) {
                 ADD_FAILURE() << "left open";
@@ -27,25 +33,29 @@ protected:
             }
         });
     }
+
+private:
+    int boxesExpected = 0;
+    int boxesSeen = 0;
 };
 
 TEST_F(RealDesktop, MessagesShowTheirSignsAsTheyAre)
 {
     meanwhile([](QMessageBox& box) {
-        EXPECT_EQ(box.windowTitle(), QStringLiteral("Error"));
-        EXPECT_EQ(box.text(), QStringLiteral("<b>5 < 6</b>"));
+        EXPECT_EQ(box.windowTitle(), u"Error"_s);
+        EXPECT_EQ(box.text(), u"<b>5 < 6</b>"_s);
         EXPECT_EQ(box.textFormat(), Qt::PlainText);
         EXPECT_EQ(box.icon(), QMessageBox::Critical);
         QTest::keyClick(&box, Qt::Key_Return);
     });
-    desktop.showMessage(MessageIcon::stop, QStringLiteral("Error"), QStringLiteral("<b>5 < 6</b>"));
+    desktop.boxes.showMessage(MessageIcon::stop, u"Error"_s, u"<b>5 < 6</b>"_s);
 }
 
 TEST_F(RealDesktop, QuestionsTakeYesByReturnAndNoByEscape)
 {
     for (const bool yes : {true, false}) {
         meanwhile([yes](QMessageBox& box) { QTest::keyClick(&box, yes ? Qt::Key_Return : Qt::Key_Escape); });
-        EXPECT_EQ(desktop.ask(QStringLiteral("Confirm"), QStringLiteral("Really?")), yes);
+        EXPECT_EQ(desktop.boxes.ask(u"Confirm"_s, u"Really?"_s), yes);
     }
 }
 
@@ -59,19 +69,19 @@ TEST_F(RealDesktop, WhatIsNotThereCannotBeStarted)
         }
         return 0;
     };
-    const QString missing = testFolder() + QStringLiteral("missing");
-    EXPECT_EQ(number([&] { desktop.startProgram(missing, {}); }), fileNotFound);
-    EXPECT_EQ(number([&] { desktop.openDocument(missing); }), fileNotFound);
-    EXPECT_NO_THROW(desktop.playSound(missing));
+    const QString missing = testFolder() + u"missing"_s;
+    EXPECT_EQ(number([&] { desktop.programs.start(missing, {}); }), fileNotFound);
+    EXPECT_EQ(number([&] { desktop.programs.openDocument(missing); }), fileNotFound);
+    EXPECT_NO_THROW(desktop.sound.play(missing));
 }
 
 TEST_F(RealDesktop, TheClipboardKeepsTheLastThingOnly)
 {
-    desktop.copyText(QStringLiteral("Bär"));
-    EXPECT_EQ(QGuiApplication::clipboard()->text(), QStringLiteral("Bär"));
-    desktop.copyPicture(QImage(4, 3, QImage::Format_RGB32));
+    desktop.clipboard.copyText(u"Bär"_s);
+    EXPECT_EQ(QGuiApplication::clipboard()->text(), u"Bär"_s);
+    desktop.clipboard.copyPicture(QImage(4, 3, QImage::Format_RGB32));
     EXPECT_EQ(QGuiApplication::clipboard()->image().size(), QSize(4, 3));
     EXPECT_EQ(QGuiApplication::clipboard()->text(), QString());
-    desktop.clearClipboard();
+    desktop.clipboard.clear();
     EXPECT_TRUE(QGuiApplication::clipboard()->image().isNull());
 }

@@ -2,6 +2,8 @@
 
 #include "support/files.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QStringList itemsOf(const QString& text)
@@ -23,13 +25,13 @@ TEST(TextFile, EveryTextSurvivesARoundTrip)
     const QString texts[] = {
         QString(),
         codePage,
-        QStringLiteral("Żółw i świerszcz"),
-        QStringLiteral("Ã¤"), // its 1252 bytes are the UTF-8 of another text
-        QStringLiteral("ï»¿abc"),
-        QStringLiteral("😀"),
-        QString(QChar(0xFEFF)) + QStringLiteral("mark"),
-        QStringLiteral("\u0081"),
-        QStringLiteral("nul") + QChar(0) + QStringLiteral("inside"),
+        u"Żółw i świerszcz"_s,
+        u"Ã¤"_s, // its 1252 bytes are valid UTF-8 of another text
+        u"ï»¿abc"_s,
+        u"😀"_s,
+        QString(QChar(0xFEFF)) + u"mark"_s,
+        u"\u0081"_s,
+        u"nul"_s + QChar(0) + u"inside"_s,
     };
     for (const QString& text : texts)
         EXPECT_EQ(decodeText(encodeText(text)), text);
@@ -37,11 +39,11 @@ TEST(TextFile, EveryTextSurvivesARoundTrip)
 
 TEST(TextFile, PlainFilesKeepTheirBytes)
 {
-    EXPECT_EQ(encodeText(QStringLiteral("Bär €")), QByteArray("B\xE4r \x80"));
-    EXPECT_EQ(encodeText(QStringLiteral("Ł")), QByteArray("\xC5\x81"));
-    EXPECT_EQ(decodeText("B\xE4r \x80"), QStringLiteral("Bär €"));
-    EXPECT_EQ(decodeText("B\xC3\xA4r"), QStringLiteral("Bär"));
-    EXPECT_EQ(decodeText("\xEF\xBB\xBF\"n\""), QStringLiteral("\"n\"")) << "an editor's byte order mark";
+    EXPECT_EQ(encodeText(u"Bär €"_s), QByteArray("B\xE4r \x80"));
+    EXPECT_EQ(encodeText(u"Ł"_s), QByteArray("\xC5\x81"));
+    EXPECT_EQ(decodeText("B\xE4r \x80"), u"Bär €"_s);
+    EXPECT_EQ(decodeText("B\xC3\xA4r"), u"Bär"_s);
+    EXPECT_EQ(decodeText("\xEF\xBB\xBF\"n\""), u"\"n\""_s) << "an editor's byte order mark";
 }
 
 TEST(TextFile, ItemsEndAtCommasAndLineEndsOutsideQuotes)

@@ -4,6 +4,8 @@
 
 #include <limits>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr double largest = std::numeric_limits<double>::max();
@@ -25,8 +27,8 @@ TEST(Values, TakeTheLongestNumberThatATextBeginsWith)
     };
     for (const auto& [text, number] : cases)
         EXPECT_EQ(leadingNumber(QString::fromLatin1(text)), number) << '"' << text << '"';
-    EXPECT_EQ(leadingNumber(QStringLiteral("٣")), 0) << "digits of other scripts are no digits";
-    EXPECT_EQ(leadingNumber(QString(100'000, QLatin1Char('9'))), largest);
+    EXPECT_EQ(leadingNumber(u"٣"_s), 0) << "digits of other scripts are no digits";
+    EXPECT_EQ(leadingNumber(QString(100'000, u'9')), largest);
 }
 
 TEST(Values, RoundHalvesToTheEvenInteger)

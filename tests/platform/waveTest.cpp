@@ -116,7 +116,7 @@ TEST(Waves, NoBeginningOfAFileIsReadBeyondItsEnd)
         } catch (const RuntimeError&) {
         }
     }
-    EXPECT_EQ(readable, 9); // from the data's head on
+    EXPECT_EQ(readable, 9); // from the header of the data on
 }
 
 TEST(Waves, AreWrittenAsTheFilesThatOthersMake)

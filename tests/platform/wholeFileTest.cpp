@@ -11,6 +11,8 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+using namespace Qt::StringLiterals;
+
 using WholeFile = Fresh;
 
 namespace {
@@ -21,7 +23,7 @@ QString place(const char* name) { return inTestFolder(QString::fromUtf8(name)); 
 
 TEST_F(WholeFile, RaisesWhatAFileCannotGive)
 {
-    QDir(testFolder()).mkdir(QStringLiteral("folder"));
+    QDir(testFolder()).mkdir(u"folder"_s);
     putFile(place("plain"), "12345");
     ASSERT_EQ(mkfifo(QFile::encodeName(place("pipe")).constData(), 0600), 0);
 
@@ -49,12 +51,12 @@ TEST_F(WholeFile, ReplacingKeepsRightsAndLinksAndLeavesNothingBeside)
     EXPECT_EQ(status.st_mode & 07777, 0640u);
     EXPECT_EQ(readWholeFile(place("real")), QByteArray("new"));
     EXPECT_EQ(QDir(testFolder()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
-              QStringList({QStringLiteral("link"), QStringLiteral("other"), QStringLiteral("real")}));
+              QStringList({u"link"_s, u"other"_s, u"real"_s}));
 }
 
 TEST_F(WholeFile, ReplacesFilesOnly)
 {
-    QDir(testFolder()).mkdir(QStringLiteral("folder"));
+    QDir(testFolder()).mkdir(u"folder"_s);
     EXPECT_EQ(errorOf([] { replaceFile(place("folder"), "x"); }), pathAccessError);
     EXPECT_EQ(errorOf([] { replaceFile(place("no folder/x"), "x"); }), pathNotFound);
     EXPECT_EQ(errorOf([] { replaceFile(place(QByteArray(300, 'n').constData()), "x"); }), pathNotFound);
@@ -62,7 +64,7 @@ TEST_F(WholeFile, ReplacesFilesOnly)
 
 namespace {
 
-/// How names of unfinished writes call this machine: a process that may not let any file grow ends in one.
+/// The name of this machine in temporary files, taken from one that a failing writer leaves behind.
 QString thisMachine()
 {
     const pid_t writer = fork();
@@ -75,14 +77,14 @@ QString thisMachine()
     }
     waitpid(writer, nullptr, 0);
     const QString left =
-        QDir(testFolder()).entryList({QStringLiteral(".tallymoor~*")}, QDir::Hidden | QDir::Files).value(0);
+        QDir(testFolder()).entryList({u".tallymoor~*"_s}, QDir::Hidden | QDir::Files).value(0);
     QFile::remove(testFolder() + left);
-    return left.section(QLatin1Char('~'), 1, 1);
+    return left.section(u'~', 1, 1);
 }
 
 QString leftover(const QString& machine, pid_t process, int count = 1)
 {
-    return QStringLiteral(".tallymoor~%1~%2~%3").arg(machine).arg(process).arg(count);
+    return u".tallymoor~%1~%2~%3"_s.arg(machine).arg(process).arg(count);
 }
 
 void age(const QString& path, int seconds)
@@ -102,20 +104,16 @@ TEST_F(WholeFile, SweepingTakesWhatIsDeadAndLeavesWhatMayBeAlive)
         _exit(0);
     waitpid(dead, nullptr, 0);
     const QString here = thisMachine();
-    const QString elsewhere = QStringLiteral("0123456789abcdef");
+    const QString elsewhere = u"0123456789abcdef"_s;
     const struct {
         QString name;
-        int seconds; // of age
+        int seconds; // the file's age
         bool stays;
     } cases[] = {
-        {leftover(here, dead), 0, false},
-        {leftover(here, getpid()), 0, true},
-        {leftover(here, getpid(), 2), 3600, false},
-        {leftover(elsewhere, dead, 1), 0, true},
-        {leftover(elsewhere, dead, 2), 500, true},
-        {leftover(elsewhere, dead, 3), 700, false},
-        {QStringLiteral(".tallymoor~readme"), 3600, true},
-        {QStringLiteral("CARDAAAA.tcd"), 3600, true},
+        {leftover(here, dead), 0, false},           {leftover(here, getpid()), 0, true},
+        {leftover(here, getpid(), 2), 3600, false}, {leftover(elsewhere, dead, 1), 0, true},
+        {leftover(elsewhere, dead, 2), 500, true},  {leftover(elsewhere, dead, 3), 700, false},
+        {u".tallymoor~readme"_s, 3600, true},       {u"CARDAAAA.tcd"_s, 3600, true},
     };
     for (const auto& [name, seconds, stays] : cases) {
         putFile(inTestFolder(name), "half");

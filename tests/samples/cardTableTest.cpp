@@ -2,13 +2,15 @@
 
 #include "support/files.h"
 
+using namespace Qt::StringLiterals;
+
 using testing::ElementsAre;
 using testing::HasSubstr;
 
 namespace {
 
 struct CardTables : Fresh {
-    /// The complaint about the table, empty when it can be read.
+    /// The error message about the table, empty when it can be read.
     std::string complaint(const QByteArray& table)
     {
         putFile(inTestFolder("table.txt"), table);
@@ -23,7 +25,8 @@ struct CardTables : Fresh {
 
 const QByteArray start =
     "# a note\r\ntitle: Fruit\r\nfield: Name; text\r\nfield: Colour; text; red, green\r\n"
-    "field: Weight g; number\r\n\r\nName ; Colour ; Weight g ; Note\r\n";
+    "field: Weight g; number\r\nground: Colour\r\nboard: stall.svg\r\n\r\nName ; Colour ; Weight g ; "
+    "Note\r\n";
 
 } // namespace
 
@@ -35,9 +38,11 @@ TEST_F(CardTables, AreReadAsATeacherWritesThem)
     ASSERT_EQ(table.fields.size(), 3);
     EXPECT_THAT(table.fields[1].answers, ElementsAre("red", "green"));
     EXPECT_TRUE(table.fields[2].isNumber);
+    EXPECT_EQ(table.ground, "Colour");
+    EXPECT_EQ(table.board, "stall.svg");
     ASSERT_EQ(table.cards.size(), 2);
     EXPECT_EQ(table.cards[0]["Weight g"], "120.5");
-    EXPECT_EQ(table.cards[1]["Name"], QStringLiteral("Äpfelchen"));
+    EXPECT_EQ(table.cards[1]["Name"], u"Äpfelchen"_s);
     EXPECT_EQ(table.cards[1]["Note"], "small, sour");
 }
 
@@ -47,13 +52,15 @@ TEST_F(CardTables, NameTheLineThatIsWrong)
         QByteArray table;
         std::string told;
     } faults[] = {
-        {start + "Apple; blue; 1;", "table.txt:8: blue is not in the list of Colour"},
-        {start + "Apple; red; heavy;", "table.txt:8: Weight g is no number: heavy"},
-        {start + "Apple; red; 1;\nApple; red; 2;", "table.txt:9: a name is missing or stands twice: Apple"},
-        {start + "Apple; red; 1", "table.txt:8: this row has more or fewer cells than the headings"},
-        {start + "\"Apple\"; red; 1;", "table.txt:8: a cell can't hold a double quote"},
+        {start + "Apple; blue; 1;", "table.txt:10: blue is not in the list of Colour"},
+        {start + "Apple; red; heavy;", "table.txt:10: Weight g is no number: heavy"},
+        {start + "Apple; red; 1;\nApple; red; 2;", "table.txt:11: a name is missing or stands twice: Apple"},
+        {start + "Apple; red; 1", "table.txt:10: this row has more or fewer cells than the headings"},
+        {start + "\"Apple\"; red; 1;", "table.txt:10: a cell can't hold a double quote"},
         {"title: Fruit\nfield: Name; words", "table.txt:2: a field's type is text or number"},
         {"title: Fruit\nfield: Name; text\nName; Price", "table.txt:3: unexpected heading Price"},
+        {"title: Fruit\nfield: Name; text\nground: Name",
+         "table.txt:3: the ground is no field with a list: Name"},
         {"field: Name; text\nName\nApple", "the table has no title"},
         {start + QByteArray("\n").repeated(2) +
              [] {

@@ -17,14 +17,13 @@ Monster with(const std::function<void(Monster&)>& change)
     return monster;
 }
 
-/// The first row from above with anything on it.
+/// The first row of the outline of a monster without horns.
 int topOf(const QImage& picture)
 {
-    for (int y = 0; y < picture.height(); ++y)
-        for (int x = 0; x < picture.width(); ++x)
-            if (picture.pixel(x, y) != qRgb(255, 255, 255))
-                return y;
-    return picture.height();
+    int y = 5; // below the picture's edge
+    while (y < picture.height() && picture.pixelColor(picture.width() / 2, y).lightness() > 100)
+        ++y;
+    return y;
 }
 
 } // namespace

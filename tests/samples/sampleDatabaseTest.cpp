@@ -1,5 +1,7 @@
 #include "sampleDatabase.h"
 
+#include "cardPicture.h"
+
 #include "core/session.h"
 #include "platform/wave.h"
 #include "store/cardFiles.h"
@@ -10,6 +12,8 @@
 #include <QSet>
 #include <QtEndian>
 
+#include <cmath>
+
 using testing::IsEmpty;
 
 namespace {
@@ -18,7 +22,7 @@ CardTable tableOf(const char* name) { return readCardTable(SAMPLES_FOLDER "/tabl
 
 void make(const CardTable& table, const QString& folder)
 {
-    writeSampleDatabase(table, SAMPLES_FOLDER "/pictures", folder);
+    writeSampleDatabase(table, QDir(SAMPLES_FOLDER), folder);
     session = {};
     session.dbPath = QDir(folder).filePath(table.title);
 }
@@ -38,7 +42,7 @@ void expectFields(const CardTable& table)
     }
 }
 
-/// The card of the session's record, as the table tells it.
+/// The table's card for a record of the session.
 SampleCard cardOf(const CardTable& table)
 {
     for (const SampleCard& card : table.cards)
@@ -98,9 +102,10 @@ TEST_F(SampleDatabases, ReadBackAsTheirTablesTell)
             names.insert(session.cardValue[1][1]);
 
             loadCardPicture(1);
-            EXPECT_EQ(session.Picture1.image.size(), QSize(159, 120));
-            EXPECT_FALSE(pictures.contains(session.Picture1.image)) << session.cardValue[1][1].toStdString();
-            pictures.append(session.Picture1.image);
+            EXPECT_EQ(session.editor.Picture1.image.size(), QSize(159, 120));
+            EXPECT_FALSE(pictures.contains(session.editor.Picture1.image))
+                << session.cardValue[1][1].toStdString();
+            pictures.append(session.editor.Picture1.image);
             EXPECT_EQ(cardHasSound(1), !card["Sound"].isEmpty());
             if (cardHasSound(1))
                 expectSound(QDir(session.dbPath).filePath(session.cardId[1] + ".snd"));
@@ -128,11 +133,54 @@ TEST_F(SampleDatabases, AreTheSameInEveryRunAndKeepNoCardThatLeftTheTable)
     EXPECT_TRUE(QSet<QString>(files.begin(), files.end()).contains(filesOf("*.tcd").last()));
 }
 
+TEST_F(SampleDatabases, AreOpenedOneAfterTheOtherWithTheirOwnBoardPicture)
+{
+    const struct {
+        const char* table;
+        QSize board;
+    } databases[] = {{"amazing-animals.txt", {1920, 1200}},
+                     {"little-monsters.txt", {1, 1}}, // hidden by the menu band
+                     {"amazing-animals.txt", {1920, 1200}}};
+    QString open = session.backgroundPicture;
+    for (const auto& database : databases) {
+        CardTable table = tableOf(database.table);
+        table.cards.clear();
+        make(table, testFolder());
+        session.backgroundPicture = open;
+        readDbInfo();
+        open = session.backgroundPicture;
+        EXPECT_EQ(session.backgroundImage.size(), database.board) << database.table;
+    }
+    EXPECT_THAT(recorded.messages, IsEmpty());
+}
+
+TEST_F(SampleDatabases, HaveGroundsOnWhichTheCaptionsCanBeRead)
+{
+    const QColor caption("#1A2F8F"); // as scripts/place-samples sets it
+    const auto brightness = [](const QColor& colour) {
+        const auto part = [](double v) {
+            return v <= 0.04045 ? v / 12.92 : std::pow((v + 0.055) / 1.055, 2.4);
+        };
+        return 0.2126 * part(colour.redF()) + 0.7152 * part(colour.greenF()) + 0.0722 * part(colour.blueF());
+    };
+    const QDir grounds(SAMPLES_FOLDER "/grounds");
+    for (const QString& name : grounds.entryList({"*.svg"})) {
+        const QImage ground = drawSvgs({grounds.filePath(name)}, pictureSize);
+        for (int y = 0; y < 40; ++y)
+            for (int x = 0; x < ground.width(); ++x)
+                ASSERT_GE((brightness(ground.pixelColor(x, y)) + 0.05) / (brightness(caption) + 0.05), 4.5)
+                    << name.toStdString() << " at " << x << ", " << y;
+    }
+}
+
 TEST_F(SampleDatabases, TellWhatIsMissing)
 {
     CardTable table = tableOf("musical-instruments.txt");
     table.cards[0].cells["Picture"] = "nowhere.svg";
     EXPECT_THROW(make(table, testFolder()), std::runtime_error);
+    table = tableOf("musical-instruments.txt");
+    table.ground = "Made of";
+    EXPECT_THROW(make(table, testFolder()), std::runtime_error) << "there is no metal.svg among the grounds";
     table = tableOf("musical-instruments.txt");
     table.cards[0].cells["Sound"] = "silence";
     EXPECT_THROW(make(table, testFolder()), std::runtime_error);

@@ -2,7 +2,10 @@
 
 #include "core/session.h"
 #include "platform/pictureFile.h"
+#include "store/cardSaving.h"
 #include "support/files.h"
+
+using namespace Qt::StringLiterals;
 
 class CardFiles : public Fresh {
 protected:
@@ -10,7 +13,7 @@ protected:
     {
         session.dbPath = testFolder().chopped(1);
         session.numFields = 3;
-        session.cardId[1] = QStringLiteral("CARDAAAA");
+        session.cardId[1] = u"CARDAAAA"_s;
     }
 
     static QString file(const char* name) { return inTestFolder(QString::fromLatin1(name)); }
@@ -26,16 +29,16 @@ protected:
 
 TEST_F(CardFiles, ARecordIsWrittenFromTheEditorsBoxes)
 {
-    session.cardValue[1][0] = QStringLiteral("01230085");
-    session.DataBox[1] = QStringLiteral("Größe, m");
-    session.DataBox[3] = QStringLiteral("7");
-    session.DataBox[4] = QStringLiteral("beyond the fields");
+    session.cardValue[1][0] = u"01230085"_s;
+    session.editor.DataBox[1] = u"Größe, m"_s;
+    session.editor.DataBox[3] = u"7"_s;
+    session.editor.DataBox[4] = u"beyond the fields"_s;
 
     saveCardValues(1);
 
     EXPECT_EQ(bytesOf(file("CARDAAAA.tcd")), QByteArray("\"01230085\"\r\n\"Gr\xF6\xDF"
                                                         "e, m\"\r\n\"\"\r\n\"7\"\r\n"));
-    EXPECT_EQ(session.box[1].tooltip, QStringLiteral("Größe, m"));
+    EXPECT_EQ(session.box[1].tooltip, u"Größe, m"_s);
     EXPECT_TRUE(session.cardValue[1][4].isEmpty());
     EXPECT_TRUE(recorded.messages.isEmpty());
 
@@ -52,12 +55,12 @@ TEST_F(CardFiles, WhatARecordLacksRepeatsTheLastValueRead)
         {"\"00100020", {"00100020", "00100020", "00100020", "00100020"}},
         {"a,b,c,d,e", {"a", "b", "c", "d"}},
         {QByteArray("\x00\xFF\r\n\x81", 5),
-         {QStringLiteral("\0ÿ").left(0) + QChar(0) + QChar(0xFF), "\u0081", "\u0081", "\u0081"}},
+         {u"\0ÿ"_s.left(0) + QChar(0) + QChar(0xFF), "\u0081", "\u0081", "\u0081"}},
         {QByteArray(5 << 20, 'x'), {"", "", "", ""}},
     };
     for (const auto& [bytes, expected] : cases) {
         putFile(file("CARDAAAA.tcd"), bytes);
-        session.cardValue[1][2] = QStringLiteral("former");
+        session.cardValue[1][2] = u"former"_s;
         loadCardValues(1);
         EXPECT_EQ(values(), expected) << bytes.left(20).toStdString();
     }
@@ -71,41 +74,40 @@ TEST_F(CardFiles, AreFoundAndReplacedWhateverTheirCase)
 {
     putFile(file("CardAaaa.TCD"), "\"00100020\",\"Rex\",\"\",\"\"");
     loadCardValues(1);
-    session.DataBox[1] = QStringLiteral("Mia");
+    session.editor.DataBox[1] = u"Mia"_s;
     saveCardValues(1);
-    EXPECT_EQ(QDir(testFolder()).entryList(QDir::Files), QStringList(QStringLiteral("CardAaaa.TCD")));
+    EXPECT_EQ(QDir(testFolder()).entryList(QDir::Files), QStringList(u"CardAaaa.TCD"_s));
     EXPECT_EQ(bytesOf(file("CardAaaa.TCD")), QByteArray("\"00100020\"\r\n\"Mia\"\r\n\"\"\r\n\"\"\r\n"));
 }
 
 TEST_F(CardFiles, AFailedSaveLeavesTheTooltip)
 {
-    session.box[1].tooltip = QStringLiteral("before");
-    session.DataBox[1] = QStringLiteral("after");
+    session.box[1].tooltip = u"before"_s;
+    session.editor.DataBox[1] = u"after"_s;
     session.dbPath = file("gone");
     saveCardValues(1);
-    EXPECT_EQ(session.box[1].tooltip, QStringLiteral("before"));
-    EXPECT_EQ(session.cardValue[1][1], QStringLiteral("after"));
+    EXPECT_EQ(session.box[1].tooltip, u"before"_s);
+    EXPECT_EQ(session.cardValue[1][1], u"after"_s);
 }
 
 TEST_F(CardFiles, ThePictureIsWhatTheEditorShows)
 {
     QImage larger(200, 60, QImage::Format_RGB32);
     larger.fill(Qt::red);
-    session.Picture1.image = larger;
+    session.editor.Picture1.image = larger;
     saveCardPicture(1);
-    session.Picture1.image = {};
+    session.editor.Picture1.image = {};
     loadCardPicture(1);
-    const QImage loaded = session.Picture1.image;
+    const QImage loaded = session.editor.Picture1.image;
     EXPECT_EQ(loaded.size(), QSize(159, 120)) << "cut at the control's edges";
     EXPECT_EQ(loaded.pixelColor(158, 59), QColor(Qt::red));
     EXPECT_EQ(loaded.pixelColor(0, 60), QColor(Qt::white));
 }
 
-TEST_F(CardFiles, DeletingTheAnswersTouchesNothingElse)
+TEST_F(CardFiles, OfOneCardGoTogetherWhateverTheirCapitals)
 {
-    putFile(file("ANSWERS.TXT"), "x");
-    putFile(file("Questions.txt"), "x");
-    deleteAnswers();
-    deleteAnswers();
-    EXPECT_EQ(QDir(testFolder()).entryList(QDir::Files), QStringList(QStringLiteral("Questions.txt")));
+    for (const char* name : {"cardaaaa.TCD", "CARDAAAA.bmp", "Cardaaaa.Snd", "CARDAAAB.tcd", "CARDAAAA.txt"})
+        putFile(file(name), "x");
+    EXPECT_EQ(cardFilesOfOneRecord(cardIdOf(u"CARDAAAA older.tcd"_s), {}),
+              QStringList({file("cardaaaa.TCD"), file("CARDAAAA.bmp"), file("Cardaaaa.Snd")}));
 }

@@ -4,14 +4,15 @@
 #include "platform/pictureFile.h"
 #include "support/files.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-const QString problem =
-    QStringLiteral("Error|There was a problem reading your database, some of the data may be missing");
+const QString problem = u"Error|There was a problem reading your database, some of the data may be missing"_s;
 
-QString description() { return inTestFolder(QStringLiteral("db-info.tdb")); }
+QString description() { return inTestFolder(u"db-info.tdb"_s); }
 
-/// Reads a description of those bytes and tells how many messages came; every one must be the routine's own.
+/// Reads a description of those bytes and returns the number of messages; each must be the one of readDbInfo.
 int problemsIn(const QByteArray& bytes)
 {
     putFile(description(), bytes);
@@ -43,15 +44,15 @@ TEST_F(DescriptionFile, FillsTheSessionAndIsWrittenBackByteForByte)
     EXPECT_EQ(problemsIn(pets), 0);
     EXPECT_EQ(session.numFields, 2);
     EXPECT_EQ(session.cardSize, 1);
-    EXPECT_EQ(session.dbVersion, QStringLiteral("1.1.0"));
-    EXPECT_EQ(session.fieldName[2], QStringLiteral("Legs, or feet"));
-    EXPECT_EQ(session.fieldType[2], QStringLiteral("123"));
+    EXPECT_EQ(session.dbVersion, u"1.1.0"_s);
+    EXPECT_EQ(session.fieldName[2], u"Legs, or feet"_s);
+    EXPECT_EQ(session.fieldType[2], u"123"_s);
     EXPECT_FALSE(session.fieldUseList[1]);
-    EXPECT_EQ(session.fieldListItem[2][12], QStringLiteral("many"));
-    EXPECT_EQ(session.editorFieldName[2], QStringLiteral("Legs, or feet"));
-    EXPECT_EQ(session.editorFieldName[3], QStringLiteral("Fieldname3"));
-    EXPECT_EQ(session.menuItemState[1][1], QStringLiteral("Don'tShow"));
-    EXPECT_TRUE(session.designReadOnly);
+    EXPECT_EQ(session.fieldListItem[2][12], u"many"_s);
+    EXPECT_EQ(session.editor.fieldName[2], u"Legs, or feet"_s);
+    EXPECT_EQ(session.editor.fieldName[3], u"Fieldname3"_s);
+    EXPECT_EQ(session.menu.menuItemState[1][1], u"Don'tShow"_s);
+    EXPECT_TRUE(session.design.ChkRD);
 
     QFile::remove(description());
     writeDbInfo();
@@ -65,15 +66,35 @@ TEST_F(DescriptionFile, OfVersionOneIsUpgradedByWriting)
             "1\r\n0\r\n\"none\"\r\n\"Colour\"\r\n\"Abc\"\r\nTrue\r\n\"a\"\r\n\"b\"\r\n\"c\"\r\n\"d\"\r\n"
             "\"e\"\r\n\"f\"\r\nsomething else\r\n"),
         0);
-    EXPECT_EQ(session.dbVersion, QStringLiteral("1.0.0"));
-    EXPECT_EQ(session.fieldListItem[1][6], QStringLiteral("f"));
-    EXPECT_EQ(session.databaseStatus, QStringLiteral("something else"));
-    EXPECT_EQ(session.menuItemState[1][1], QStringLiteral("Show"));
+    EXPECT_EQ(session.dbVersion, u"1.0.0"_s);
+    EXPECT_EQ(session.fieldListItem[1][6], u"f"_s);
+    EXPECT_EQ(session.databaseStatus, u"something else"_s);
+    EXPECT_EQ(session.menu.menuItemState[1][1], u"Show"_s);
     writeDbInfo();
     EXPECT_EQ(bytesOf(description()).count('\n'), 3 + 15 + 2);
     EXPECT_TRUE(bytesOf(description())
                     .endsWith("\"f\"\r\n\"\"\r\n\"\"\r\n\"\"\r\n\"\"\r\n\"\"\r\n\"\"\r\n"
                               "something else\r\nVER=\"1.1.0\"\r\n"));
+}
+
+TEST_F(DescriptionFile, IsNotWrittenUnlessItIsChangedAndNeverOverWhatNobodyHasSeen)
+{
+    const QByteArray byHand = QByteArray(pets).replace("\r\n", "\n");
+    problemsIn(byHand);
+    writeDbInfo();
+    EXPECT_EQ(bytesOf(description()), byHand) << "nothing was changed";
+
+    putFile(description(), "another workstation's");
+    session.fieldName[1] = u"Changed"_s;
+    writeDbInfo();
+    EXPECT_TRUE(bytesOf(description()).contains("Changed"));
+    EXPECT_EQ(bytesOf(inTestFolder(u".kept/2026-03-09 10.30.05/db-info.tdb"_s)), "another workstation's");
+
+    QFile::remove(description());
+    QDir(testFolder()).mkdir(u"db-info.tdb"_s); // can't be read
+    recorded.messages.clear();
+    writeDbInfo();
+    EXPECT_EQ(recorded.messages, QStringList(u"Error|Path/File access error"_s));
 }
 
 TEST_F(DescriptionFile, EveryFailedStatementIsToldOnceAndTheRestIsRead)
@@ -105,7 +126,7 @@ TEST_F(DescriptionFile, EveryFailedStatementIsToldOnceAndTheRestIsRead)
         EXPECT_EQ(problemsIn(bytes), problems) << name;
         EXPECT_EQ(session.numFields, fields) << name;
         EXPECT_EQ(session.cardSize, size) << name;
-        EXPECT_EQ(session.backgroundPicture, QStringLiteral("none")) << name;
+        EXPECT_EQ(session.backgroundPicture, u"none"_s) << name;
     }
 }
 
@@ -116,27 +137,27 @@ TEST_F(DescriptionFile, AMissingFileLeavesEverythingAsItWas)
     recorded.messages.clear();
     readDbInfo();
     EXPECT_EQ(recorded.messages.count(problem), 1 + 1 + 3 + 3 + (3 + 6) + 1);
-    EXPECT_EQ(session.fieldName[2], QStringLiteral("Legs, or feet"));
-    EXPECT_EQ(session.databaseStatus, QStringLiteral("RO"));
-    EXPECT_EQ(session.dbVersion, QStringLiteral("1.0.0"));
+    EXPECT_EQ(session.fieldName[2], u"Legs, or feet"_s);
+    EXPECT_EQ(session.databaseStatus, u"RO"_s);
+    EXPECT_EQ(session.dbVersion, u"1.0.0"_s);
 }
 
 TEST_F(DescriptionFile, AnotherBackgroundIsLoadedOnce)
 {
     QImage map(3, 2, QImage::Format_RGB32);
     map.fill(Qt::green);
-    putFile(inTestFolder(QStringLiteral("map.bmp")), bitmapBytes(map));
+    putFile(inTestFolder(u"map.bmp"_s), bitmapBytes(map));
     const auto withBackground = [](const QString& name) {
         return QByteArray(pets).replace("none", name.toUtf8());
     };
-    EXPECT_EQ(problemsIn(withBackground(inTestFolder(QStringLiteral("map.bmp")))), 0);
+    EXPECT_EQ(problemsIn(withBackground(inTestFolder(u"map.bmp"_s))), 0);
     EXPECT_EQ(session.backgroundImage.size(), QSize(3, 2));
     EXPECT_EQ(problemsIn(pets), 1) << "there is no picture called none";
-    EXPECT_EQ(session.backgroundPicture, QStringLiteral("none"));
+    EXPECT_EQ(session.backgroundPicture, u"none"_s);
     EXPECT_EQ(session.backgroundImage.size(), QSize(3, 2)) << "the old picture stays";
     EXPECT_EQ(problemsIn(pets), 0);
     EXPECT_EQ(problemsIn(withBackground(QString())), 0);
     EXPECT_TRUE(session.backgroundImage.isNull());
-    EXPECT_EQ(problemsIn(withBackground(QStringLiteral("map.bmp"))), 0) << "beside the description";
+    EXPECT_EQ(problemsIn(withBackground(u"map.bmp"_s)), 0) << "beside the description";
     EXPECT_EQ(session.backgroundImage.size(), QSize(3, 2));
 }

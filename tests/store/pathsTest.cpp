@@ -2,6 +2,8 @@
 
 #include "support/files.h"
 
+using namespace Qt::StringLiterals;
+
 using Paths = Fresh;
 
 TEST_F(Paths, CleaningCutsRunsOfSeparatorsAfterTheSecondCharacter)
@@ -23,23 +25,23 @@ TEST_F(Paths, CleaningCutsRunsOfSeparatorsAfterTheSecondCharacter)
 
 TEST_F(Paths, AreTakenApartAndJoinedAtEitherSeparator)
 {
-    EXPECT_EQ(lastPathPart(QStringLiteral(R"(C:\cards/pets)")), QStringLiteral("pets"));
-    EXPECT_EQ(lastPathPart(QStringLiteral("pets")), QStringLiteral("pets"));
-    EXPECT_EQ(lastPathPart(QStringLiteral("/pets/")), QString());
-    EXPECT_EQ(joinPath(QStringLiteral("/"), QStringLiteral("x")), QStringLiteral("/x"));
-    EXPECT_EQ(joinPath(QStringLiteral("/pets"), QStringLiteral("x")), QStringLiteral("/pets/x"));
+    EXPECT_EQ(lastPathPart(QStringLiteral(R"(C:\cards/pets)")), u"pets"_s);
+    EXPECT_EQ(lastPathPart(u"pets"_s), u"pets"_s);
+    EXPECT_EQ(lastPathPart(u"/pets/"_s), QString());
+    EXPECT_EQ(joinPath(u"/"_s, u"x"_s), u"/x"_s);
+    EXPECT_EQ(joinPath(u"/pets"_s, u"x"_s), u"/pets/x"_s);
 }
 
 TEST_F(Paths, AFileIsFoundWhateverItsCase)
 {
-    putFile(inTestFolder(QStringLiteral("CARDAAAA.TCD")), "upper");
-    putFile(inTestFolder(QStringLiteral("[odd]*.tcd")), "");
+    putFile(inTestFolder(u"CARDAAAA.TCD"_s), "upper");
+    putFile(inTestFolder(u"[odd]*.tcd"_s), "");
     const auto found = [](const char* name) {
         return lastPathPart(filePathIn(testFolder(), QString::fromLatin1(name)));
     };
-    EXPECT_EQ(found("CardAAAA.tcd"), QStringLiteral("CARDAAAA.TCD"));
-    EXPECT_EQ(found("[ODD]*.TCD"), QStringLiteral("[odd]*.tcd"));
-    EXPECT_EQ(found("new.tcd"), QStringLiteral("new.tcd"));
-    putFile(inTestFolder(QStringLiteral("cardaaaa.tcd")), "lower");
-    EXPECT_EQ(found("cardaaaa.tcd"), QStringLiteral("cardaaaa.tcd"));
+    EXPECT_EQ(found("CardAAAA.tcd"), u"CARDAAAA.TCD"_s);
+    EXPECT_EQ(found("[ODD]*.TCD"), u"[odd]*.tcd"_s);
+    EXPECT_EQ(found("new.tcd"), u"new.tcd"_s);
+    putFile(inTestFolder(u"cardaaaa.tcd"_s), "lower");
+    EXPECT_EQ(found("cardaaaa.tcd"), u"cardaaaa.tcd"_s);
 }

@@ -1,4 +1,4 @@
-// Cards for tests that need no folder: they lie in the session only.
+// Cards for tests that need no folder: they exist in the session only.
 #pragma once
 
 #include "core/session.h"
@@ -7,7 +7,7 @@
 
 #include <vector>
 
-/// Card i gets values[i - 1] in field 1, of the given type, and lies at (100, 200), 80 by 60.
+/// Card i gets values[i - 1] in field 1, of the given type; it is at (100, 200), 80 by 60.
 inline void cards(const QStringList& values, const QString& type = QStringLiteral("Abc"))
 {
     session.numCards = int(values.size());
@@ -21,7 +21,7 @@ inline void cards(const QStringList& values, const QString& type = QStringLitera
     }
 }
 
-/// The cards from the upper left to the lower right of the board.
+/// The numbers of the cards from the upper left to the lower right of the board.
 inline std::vector<int> cardsByTop()
 {
     std::vector<int> order;

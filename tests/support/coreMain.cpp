@@ -1,4 +1,4 @@
-// Tests of the core library: no widget is ever made, though measuring text wants Qt's fonts.
+// Tests of the core library. They need a QGuiApplication for measuring text, but no widgets.
 #include <gmock/gmock.h>
 
 #include <QGuiApplication>

@@ -20,7 +20,7 @@ inline int errorOf(const std::function<void()>& routine)
 /// The path of a file in the test's folder.
 inline QString inTestFolder(const QString& name) { return testFolder() + name; }
 
-/// Writes the bytes as they stand, by other means than the program's own.
+/// Writes the bytes unchanged, without the program's code.
 inline void putFile(const QString& path, const QByteArray& bytes)
 {
     QFile file(path);

@@ -1,15 +1,17 @@
 #include "support/freshStart.h"
 
-#include "board/refresh.h"
-#include "core/screen.h"
+#include "controls/forms.h"
+#include "core/mainView.h"
 #include "core/session.h"
-#include "platform/forms.h"
-#include "store/loading.h"
+#include "database/loading.h"
+#include "database/refresh.h"
 
 #include <QCoreApplication>
 #include <QDialog>
 #include <QDir>
 #include <QTimer>
+
+using namespace Qt::StringLiterals;
 
 Recorded recorded;
 
@@ -37,44 +39,48 @@ QString chosenOrNone()
 Desktop recordingDesktop()
 {
     Desktop d;
-    d.beep = [] { ++recorded.beeps; };
-    d.showMessage = [](MessageIcon, const QString& title, const QString& text) {
-        recorded.messages.append(title + QLatin1Char('|') + text);
+    d.boxes.showMessage = [](MessageIcon, const QString& title, const QString& text) {
+        recorded.messages.append(title + u'|' + text);
     };
-    d.ask = [](const QString& title, const QString& text) {
+    d.boxes.ask = [](const QString& title, const QString& text) {
         if (recorded.answers.empty())
             ADD_FAILURE() << "an unexpected question: " << text.toStdString();
-        recorded.messages.append(title + QLatin1Char('|') + text);
+        recorded.messages.append(title + u'|' + text);
         return nextOf(recorded.answers, false);
     };
-    d.chooseFolder = [](const QString&, const QString&) { return chosenOrNone(); };
-    d.chooseFile = [](const QString&, const QString&, const QString&) { return chosenOrNone(); };
+    d.files.chooseFolder = [](const QString&, const QString&) { return chosenOrNone(); };
+    d.files.chooseFile = [](const QString&, const QString&, const QString&) { return chosenOrNone(); };
+    d.files.choosePicture = d.files.chooseFile;
+    d.files.programFolder = [] { return testFolder().chopped(1); };
+    d.files.documentsFolder = []() -> QString { return testFolder() + u"Documents"_s; };
+    d.files.volumes = [] { return QList<Volume>(); };
+    d.sound.beep = [] { ++recorded.beeps; };
+    d.sound.play = [](const QString& path) { recorded.played.append(path); };
+    d.paper.printerNames = [] { return QStringList(); };
+    d.paper.defaultPrinterName = [] { return QString(); };
+    d.clipboard.clear = [] {};
+    d.clipboard.copyText = [](const QString&) {};
+    d.clipboard.copyPicture = [](const QImage&) {};
+    d.programs.openDocument = [](const QString& path) { recorded.started.append(path); };
+    d.programs.start = [](const QString& path, const QStringList& arguments) {
+        recorded.started.append((QStringList(path) + arguments).join(u' '));
+    };
+    d.programs.startCommand = [](const QString& commandLine) { recorded.started.append(commandLine); };
+    d.screen.setBusyPointer = [](bool) {};
+    d.screen.size = [] { return QSize(1280, 800); };
+    d.screen.twipsPerPixelX = [] { return 15.0; };
+    d.screen.twipsPerPixelY = [] { return 15.0; };
+    d.screen.pixelRatio = [] { return 1.0; };
     d.yield = [] {
         ++recorded.rounds;
         if (recorded.inYield)
             recorded.inYield(recorded.rounds);
     };
     d.waitForEvents = d.yield;
+    d.runProgram = [] { return 0; };
+    d.endProgram = [] { ++recorded.ends; };
     d.random = [] { return nextOf(recorded.randoms, 0.5); };
-    d.today = [] { return QDate(2026, 3, 9); };
-    d.openDocument = [](const QString& path) { recorded.started.append(path); };
-    d.startProgram = [](const QString& path, const QStringList& arguments) {
-        recorded.started.append((QStringList(path) + arguments).join(QLatin1Char(' ')));
-    };
-    d.playSound = [](const QString& path) { recorded.played.append(path); };
-    d.clearClipboard = [] {};
-    d.copyText = [](const QString&) {};
-    d.copyPicture = [](const QImage&) {};
-    d.printerNames = [] { return QStringList(); };
-    d.defaultPrinterName = [] { return QString(); };
-    d.setBusyPointer = [](bool) {};
-    d.screenSize = [] { return QSize(1280, 800); };
-    d.twipsPerPixelX = [] { return 15.0; };
-    d.twipsPerPixelY = [] { return 15.0; };
-    d.pixelRatio = [] { return 1.0; };
-    d.programFolder = [] { return testFolder().chopped(1); };
-    d.documentsFolder = []() -> QString { return testFolder() + QStringLiteral("Documents"); };
-    d.volumes = [] { return QList<Volume>(); };
+    d.now = [] { return QDateTime({2026, 3, 9}, {10, 30, 5}); };
     return d;
 }
 
@@ -98,25 +104,24 @@ void freshStart()
 {
     unloadAllForms();
     session = {};
-    screen = blankScreen();
+    mainView = blankMainView();
     recorded = {};
     forgetLoadedFaces();
-    refreshTimer().stop();
-    refreshTimer().setInterval(2000);
+    delete &refreshTimer(); // the next one has its usual interval
     folder = std::make_unique<QTemporaryDir>();
     desktop = recordingDesktop();
     modalLoop = answerPrepared;
-    session.boardWidth = 1000;
-    session.boardHeight = 700;
-    screen.redrawCard = [](int card) { recorded.redrawnCards.push_back(card); };
-    screen.measureLabel = [](const QString& text, double& width, double& height) {
+    session.board.width = 1000;
+    session.board.height = 700;
+    mainView.redrawCard = [](int card) { recorded.redrawnCards.push_back(card); };
+    mainView.measureLabel = [](const QString& text, double& width, double& height) {
         width = 8.0 * double(text.size());
         height = 16;
     };
     resetFieldTable();
 }
 
-QString testFolder() { return folder->path() + QLatin1Char('/'); }
+QString testFolder() { return folder->path() + u'/'; }
 
 Fresh::~Fresh()
 {

@@ -1,5 +1,5 @@
-// Where every test begins: a new session, no forms, empty caches, and seams that record instead of reaching
-// out.
+// The start of every test: a new session, no forms, empty caches, and seams that record calls instead of
+// acting.
 #pragma once
 
 #include "platform/desktop.h"
@@ -15,22 +15,23 @@
 
 class QDialog;
 
-/// So that a failed comparison tells the text.
+/// Prints the text in failed comparisons.
 inline void PrintTo(const QString& text, std::ostream* out) { *out << '"' << text.toStdString() << '"'; }
 
-/// What was said and asked through the seams, and the answers prepared for it.
+/// The calls recorded by the seams, and the prepared answers.
 struct Recorded {
     int beeps = 0;
     int rounds = 0;       // of yield
+    int ends = 0;         // of the program
     QStringList messages; // "title|text"
     QStringList played;   // paths of sounds
     QStringList started;  // programs and documents, with their arguments after blanks
     std::vector<int> redrawnCards;
 
-    std::deque<bool> answers;               // to ask(); an unexpected question fails the test and is a No
-    std::deque<QString> chosen;             // to chooseFolder() and chooseFile()
-    std::deque<double> randoms;             // then 0.5 for ever
-    std::function<void(int round)> inYield; // acts in the middle of a flight
+    std::deque<bool> answers;   // to ask(); an unexpected question fails the test and is answered No
+    std::deque<QString> chosen; // to chooseFolder() and chooseFile()
+    std::deque<double> randoms; // then 0.5 for ever
+    std::function<void(int round)> inYield;                // acts in the middle of a flight
     std::deque<std::function<void(QDialog&)>> dialogSteps; // one for each modal dialog, in order
 };
 

@@ -1,20 +1,21 @@
-// A folder behind a slow network: every call to it takes a while, and nothing is cached.
+// Imitates a folder on a slow network: every call is delayed, and nothing is cached.
 //
 //     slowFolder DELAY_MS SOURCE MOUNTPOINT
 //
-// shows SOURCE at MOUNTPOINT, reading and writing, until it is told to stop or the mount is taken away. It
-// says "ready" when calls are answered.
+// mounts SOURCE at MOUNTPOINT for reading until it is terminated or unmounted. It prints "ready" when the
+// mount works. Between SIGUSR1 and SIGUSR2 calls are not answered.
 #define FUSE_USE_VERSION 31
 #include <fuse3/fuse.h>
 
 #include <dirent.h>
 #include <fcntl.h>
 #include <sys/stat.h>
-#include <sys/statvfs.h>
 #include <unistd.h>
 
+#include <atomic>
 #include <cerrno>
 #include <chrono>
+#include <csignal>
 #include <cstdio>
 #include <cstdlib>
 #include <string>
@@ -25,7 +26,15 @@ namespace {
 std::chrono::milliseconds delay;
 std::string source;
 
-void wait() { std::this_thread::sleep_for(delay); }
+std::atomic<int> holds = 0; // counted, since two signals sent together may arrive in either order
+
+void wait()
+{
+    do
+        std::this_thread::sleep_for(delay);
+    while (holds > 0);
+}
+
 std::string real(const char* path) { return source + path; }
 int result(int returned) { return returned < 0 ? -errno : returned; }
 
@@ -52,7 +61,7 @@ int list(const char* path, void* buffer, fuse_fill_dir_t fill, off_t, fuse_file_
     if (folder == nullptr)
         return -errno;
     while (const dirent* entry = readdir(folder)) {
-        struct stat kind = {}; // as servers do, a listing tells folders from files
+        struct stat kind = {}; // like a server's, the listing distinguishes folders from files
         kind.st_mode = DTTOIF(entry->d_type);
         fill(buffer, entry->d_name, &kind, 0, fuse_fill_dir_flags(0));
     }
@@ -68,84 +77,16 @@ int openFile(const char* path, fuse_file_info* file)
     return handle < 0 ? -errno : 0;
 }
 
-int createFile(const char* path, mode_t mode, fuse_file_info* file)
-{
-    wait();
-    const int handle = open(real(path).c_str(), file->flags | O_CREAT, mode);
-    file->fh = std::uint64_t(handle);
-    return handle < 0 ? -errno : 0;
-}
-
 int readFile(const char*, char* buffer, size_t size, off_t offset, fuse_file_info* file)
 {
     wait();
     return result(int(pread(int(file->fh), buffer, size, offset)));
 }
 
-int writeFile(const char*, const char* buffer, size_t size, off_t offset, fuse_file_info* file)
-{
-    wait();
-    return result(int(pwrite(int(file->fh), buffer, size, offset)));
-}
-
-int syncFile(const char*, int, fuse_file_info* file)
-{
-    wait();
-    return result(fsync(int(file->fh)));
-}
-
 int closeFile(const char*, fuse_file_info* file)
 {
     wait();
     return result(close(int(file->fh)));
-}
-
-int resize(const char* path, off_t size, fuse_file_info*)
-{
-    wait();
-    return result(truncate(real(path).c_str(), size));
-}
-
-int removeFile(const char* path)
-{
-    wait();
-    return result(unlink(real(path).c_str()));
-}
-
-int makeFolder(const char* path, mode_t mode)
-{
-    wait();
-    return result(mkdir(real(path).c_str(), mode));
-}
-
-int removeFolder(const char* path)
-{
-    wait();
-    return result(rmdir(real(path).c_str()));
-}
-
-int renameEntry(const char* from, const char* to, unsigned flags)
-{
-    wait();
-    return result(renameat2(AT_FDCWD, real(from).c_str(), AT_FDCWD, real(to).c_str(), flags));
-}
-
-int changeMode(const char* path, mode_t mode, fuse_file_info*)
-{
-    wait();
-    return result(chmod(real(path).c_str(), mode));
-}
-
-int changeTimes(const char* path, const timespec times[2], fuse_file_info*)
-{
-    wait();
-    return result(utimensat(AT_FDCWD, real(path).c_str(), times, AT_SYMLINK_NOFOLLOW));
-}
-
-int tellSpace(const char* path, struct statvfs* space)
-{
-    wait();
-    return result(statvfs(real(path).c_str(), space));
 }
 
 fuse_operations operations()
@@ -155,19 +96,8 @@ fuse_operations operations()
     all.getattr = tellAttributes;
     all.readdir = list;
     all.open = openFile;
-    all.create = createFile;
     all.read = readFile;
-    all.write = writeFile;
-    all.fsync = syncFile;
     all.release = closeFile;
-    all.truncate = resize;
-    all.unlink = removeFile;
-    all.mkdir = makeFolder;
-    all.rmdir = removeFolder;
-    all.rename = renameEntry;
-    all.chmod = changeMode;
-    all.utimens = changeTimes;
-    all.statfs = tellSpace;
     return all;
 }
 
@@ -181,6 +111,8 @@ int main(int argc, char** argv)
     }
     delay = std::chrono::milliseconds(std::atoi(argv[1]));
     source = argv[2];
+    std::signal(SIGUSR1, [](int) { ++holds; });
+    std::signal(SIGUSR2, [](int) { --holds; });
     char foreground[] = "-f";
     char* arguments[] = {argv[0], argv[3], foreground, nullptr};
     const fuse_operations calls = operations();

@@ -2,6 +2,10 @@
 
 #include <QFileInfo>
 
+#include <csignal>
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int startLimit = 10000; // milliseconds
@@ -10,10 +14,10 @@ constexpr int stopLimit = 5000;
 QString whyNot()
 {
     if (!QFileInfo::exists(QStringLiteral(SLOW_FOLDER)))
-        return QStringLiteral("the slow folder was not built: libfuse3-dev is missing");
-    const QFileInfo device(QStringLiteral("/dev/fuse"));
+        return u"the slow folder was not built: libfuse3-dev is missing"_s;
+    const QFileInfo device(u"/dev/fuse"_s);
     if (!device.isReadable() || !device.isWritable())
-        return QStringLiteral("/dev/fuse can't be used on this machine");
+        return u"/dev/fuse can't be used on this machine"_s;
     return {};
 }
 
@@ -28,17 +32,31 @@ SlowMount::SlowMount(int delayMs, const QString& source)
     if (server.waitForReadyRead(startLimit))
         mounted = place.path();
     else
-        problem = QStringLiteral("the slow folder could not be mounted: ") +
+        problem = u"the slow folder could not be mounted: "_s +
                   QString::fromLocal8Bit(server.readAllStandardError());
+}
+
+void SlowMount::hold()
+{
+    ::kill(pid_t(server.processId()), SIGUSR1);
+    held = true;
+}
+
+void SlowMount::release()
+{
+    if (held)
+        ::kill(pid_t(server.processId()), SIGUSR2);
+    held = false;
 }
 
 SlowMount::~SlowMount()
 {
     if (mounted.isEmpty())
         return;
-    server.terminate(); // it takes the mount away in order
+    release();
+    server.terminate(); // it unmounts cleanly
     if (!server.waitForFinished(stopLimit)) {
-        QProcess::execute(QStringLiteral("fusermount3"), {QStringLiteral("-uz"), mounted});
+        QProcess::execute(u"fusermount3"_s, {u"-uz"_s, mounted});
         server.kill();
         server.waitForFinished(stopLimit);
     }

@@ -1,4 +1,4 @@
-// A slow folder for a test or a benchmark, there as long as the object is.
+// A slow folder for a test or a benchmark, mounted during the object's lifetime.
 #pragma once
 
 #include <QProcess>
@@ -7,12 +7,16 @@
 
 class SlowMount {
 public:
-    /// Shows `source` at path(), each call to it taking `delayMs`. Where this machine can't do that, path()
-    /// is empty and reason() tells why: the test has to skip, saying so.
+    /// Shows `source` at path(), each call to it delayed by `delayMs`. Where this machine can't do that,
+    /// path() is empty and reason() says why; the test then must skip with that reason.
     SlowMount(int delayMs, const QString& source);
     ~SlowMount();
     SlowMount(const SlowMount&) = delete;
     SlowMount& operator=(const SlowMount&) = delete;
+
+    /// Stops answering calls until release(): access to the folder blocks.
+    void hold();
+    void release();
 
     QString path() const { return mounted; }
     QString reason() const { return problem; }
@@ -21,5 +25,6 @@ private:
     QTemporaryDir place;
     QProcess server;
     QString mounted;
+    bool held = false;
     QString problem;
 };

@@ -1,4 +1,4 @@
-// Tests that are heard. Leaving the process after a sound is part of what they prove.
+// Tests with sound output. They also prove that the process can end after a sound.
 #include "platform/wavePlayer.h"
 
 #include <gmock/gmock.h>

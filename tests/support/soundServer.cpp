@@ -8,6 +8,8 @@
 #include <csignal>
 #include <sys/prctl.h>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 bool accepts(const QString& socket)
@@ -21,26 +23,23 @@ bool accepts(const QString& socket)
 
 SoundServer::SoundServer()
 {
-    const QString socket = folder.filePath(QStringLiteral("native"));
+    const QString socket = folder.filePath(u"native"_s);
     qputenv("XDG_RUNTIME_DIR", folder.path().toLocal8Bit());
     qputenv("HOME", folder.path().toLocal8Bit());
-    qputenv("PULSE_COOKIE", folder.filePath(QStringLiteral("cookie")).toLocal8Bit());
+    qputenv("PULSE_COOKIE", folder.filePath(u"cookie"_s).toLocal8Bit());
     server.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-    server.setChildProcessModifier([] { prctl(PR_SET_PDEATHSIG, SIGKILL); }); // ends with a test that crashes
-    server.start(QStringLiteral("pulseaudio"),
-                 {QStringLiteral("-n"), QStringLiteral("--daemonize=no"),
-                  QStringLiteral("--exit-idle-time=-1"), QStringLiteral("--use-pid-file=no"),
-                  QStringLiteral("--disable-shm=yes"), QStringLiteral("--log-level=error"),
-                  QStringLiteral("--load=module-native-protocol-unix auth-anonymous=1 socket=") + socket,
-                  QStringLiteral("--load=module-null-sink sink_name=speaker norewinds=1")});
+    server.setChildProcessModifier(
+        [] { prctl(PR_SET_PDEATHSIG, SIGKILL); }); // also ends when the test crashes
+    server.start(u"pulseaudio"_s, {u"-n"_s, u"--daemonize=no"_s, u"--exit-idle-time=-1"_s,
+                                   u"--use-pid-file=no"_s, u"--disable-shm=yes"_s, u"--log-level=error"_s,
+                                   u"--load=module-native-protocol-unix auth-anonymous=1 socket="_s + socket,
+                                   u"--load=module-null-sink sink_name=speaker norewinds=1"_s});
     EXPECT_TRUE(QTest::qWaitFor([&] { return accepts(socket); }))
         << "no sound server; is pulseaudio installed?";
 
     qputenv("PULSE_SERVER", "unix:" + socket.toLocal8Bit());
-    ear.start(QStringLiteral("parecord"),
-              {QStringLiteral("-d"), QStringLiteral("speaker.monitor"), QStringLiteral("--raw"),
-               QStringLiteral("--format=s16le"), QStringLiteral("--rate=44100"),
-               QStringLiteral("--channels=1"), QStringLiteral("--latency-msec=20")});
+    ear.start(u"parecord"_s, {u"-d"_s, u"speaker.monitor"_s, u"--raw"_s, u"--format=s16le"_s,
+                              u"--rate=44100"_s, u"--channels=1"_s, u"--latency-msec=20"_s});
     EXPECT_TRUE(QTest::qWaitFor([&] { return ear.bytesAvailable() > 0; }))
         << "nothing is heard, not even silence";
     heard();

@@ -1,4 +1,4 @@
-// A private sound server with a loudspeaker that the test hears.
+// A private sound server whose output the test records.
 //
 // Qt asks for the sound server once in a process; tests with a server, without one and with one that dies
 // each need a process of their own, as ctest gives them.
@@ -11,14 +11,14 @@
 
 class SoundServer {
 public:
-    /// Starts the server, points this process at it and begins to listen.
+    /// Starts the server, makes this process use it and starts recording.
     SoundServer();
     ~SoundServer();
 
-    /// Ends the server as a crash would.
+    /// Kills the server.
     void kill();
 
-    /// What the loudspeaker gave since the last call, 44100 samples a second, -32768..32767.
+    /// The output since the last call: 44100 samples a second, -32768..32767.
     std::vector<qint16> heard();
 
 private:

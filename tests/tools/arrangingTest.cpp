@@ -2,6 +2,8 @@
 
 #include "support/freshStart.h"
 
+using namespace Qt::StringLiterals;
+
 using Arranging = Fresh;
 
 TEST_F(Arranging, OfNoCardsDoesNothing)
@@ -13,6 +15,6 @@ TEST_F(Arranging, OfNoCardsDoesNothing)
 
 TEST_F(Arranging, PreviewsTheTilesInTwoRows)
 {
-    EXPECT_EQ(arrangementPreview(QStringLiteral("Tiled"))[4], QPointF(88, 106));
-    EXPECT_EQ(arrangementPreview(QStringLiteral("Right"))[5], QPointF(248, 210));
+    EXPECT_EQ(arrangementPreview(u"Tiled"_s)[4], QPointF(88, 106));
+    EXPECT_EQ(arrangementPreview(u"Right"_s)[5], QPointF(248, 210));
 }

@@ -1,10 +1,13 @@
 #include "tools/bin.h"
 
+#include "database/loading.h"
 #include "support/cards.h"
 #include "support/freshStart.h"
 
 #include <QDir>
 #include <QFile>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -34,13 +37,13 @@ protected:
 
 TEST_F(TheBin, TakesACardWhoseCentreLiesWithinIt)
 {
-    cards({QStringLiteral("one")}); // its centre lies at (140, 230)
-    session.BigBin.left = 100;
-    session.BigBin.width = 128;
-    session.BigBin.top = 81;
-    session.BigBin.height = 150;
+    cards({u"one"_s}); // its centre lies at (140, 230)
+    session.board.BigBin.left = 100;
+    session.board.BigBin.width = 128;
+    session.board.BigBin.top = 81;
+    session.board.BigBin.height = 150;
     EXPECT_FALSE(liesOnBin(1)) << "hidden";
-    session.BigBin.visible = true;
+    session.board.BigBin.visible = true;
     EXPECT_TRUE(liesOnBin(1));
     session.box[1].top += 1; // the centre on the very edge
     EXPECT_FALSE(liesOnBin(1));
@@ -50,24 +53,41 @@ TEST_F(TheBin, RemovesTheFilesOfThatIdentityWhateverItsNumberIsByNow)
 {
     write("BBBBBBBB.bmp", "picture");
     write("BBBBBBBB.snd", "sound");
-    cards({QStringLiteral("A"), QStringLiteral("B"), QStringLiteral("C")});
-    session.cardId[1] = QStringLiteral("BBBBBBBB"); // another workstation has changed the numbers meanwhile
-    deleteCard(QStringLiteral("BBBBBBBB"));
-    EXPECT_EQ(files(), QStringList({QStringLiteral("AAAAAAAA.tcd"), QStringLiteral("CCCCCCCC.tcd"),
-                                    QStringLiteral("db-info.tdb")}));
+    cards({u"A"_s, u"B"_s, u"C"_s});
+    session.cardId[1] = u"BBBBBBBB"_s; // another workstation has changed the numbers meanwhile
+    deleteCard(u"BBBBBBBB"_s);
+    EXPECT_EQ(files(), QStringList({u"AAAAAAAA.tcd"_s, u"CCCCCCCC.tcd"_s, u"db-info.tdb"_s}));
     EXPECT_EQ(session.numCards, 2);
-    EXPECT_EQ(session.cardValue[2][1], QStringLiteral("CCCCCCCC"));
-    EXPECT_TRUE(session.title.contains(QStringLiteral("2 Card(s)")));
+    EXPECT_EQ(session.cardValue[2][1], u"CCCCCCCC"_s);
+    EXPECT_TRUE(session.window.title.contains(u"2 Card(s)"_s));
     EXPECT_TRUE(recorded.messages.isEmpty());
+}
+
+TEST_F(TheBin, KeepsTheFilesAndLeavesWhatAnotherRecordOfTheIdentityNeeds)
+{
+    write("BBBBBBBB.bmp", "picture");
+    write("BBBBBBBB (copy).tcd", "\"01000100\"\r\n\"copy\"\r\n");
+    loadAllCards();
+    ASSERT_EQ(session.recordName[2], u"BBBBBBBB (copy).tcd"_s);
+    EXPECT_EQ(session.cardValue[2][1], u"BBBBBBBB"_s);
+    deleteCard(u"BBBBBBBB"_s, u"BBBBBBBB.tcd"_s);
+    EXPECT_TRUE(files().contains(u"BBBBBBBB.bmp"_s));
+    EXPECT_EQ(session.cardValue[2][1], u"copy"_s);
+    deleteCard(u"BBBBBBBB"_s, session.recordName[2]);
+    EXPECT_EQ(files().filter(u"BBBBBBBB"_s), QStringList());
+    const QString kept = testFolder() + u".kept/2026-03-09 10.30.05"_s;
+    EXPECT_EQ(QDir(kept).entryList(QDir::Files), QStringList(u"BBBBBBBB.tcd"_s));
+    EXPECT_EQ(QDir(kept + u" 02"_s).entryList(QDir::Files),
+              QStringList({u"BBBBBBBB (copy).tcd"_s, u"BBBBBBBB.bmp"_s}));
 }
 
 TEST_F(TheBin, ScattersWhatIsLeftOnlyWhenTheTeacherWantsIt)
 {
-    session.txtDelRandomCard = QStringLiteral("0");
-    deleteCard(QStringLiteral("AAAAAAAA"));
+    session.options.txtDelRandomCard = u"0"_s;
+    deleteCard(u"AAAAAAAA"_s);
     EXPECT_EQ(session.box[1].left, 100);
-    session.txtDelRandomCard = QStringLiteral("1");
-    deleteCard(QStringLiteral("BBBBBBBB"));
+    session.options.txtDelRandomCard = u"1"_s;
+    deleteCard(u"BBBBBBBB"_s);
     EXPECT_EQ(session.box[1].left, (1000 - 2.5 * session.box[1].width) * 0.5 + session.box[1].width / 2);
     EXPECT_EQ(session.cardValue[1][0].left(4).toInt(), int(session.box[1].left));
 }

@@ -1,9 +1,11 @@
 #include "tools/finding.h"
 
-#include "core/screen.h"
+#include "core/mainView.h"
 #include "support/cards.h"
 #include "support/freshStart.h"
 #include "tools/pacing.h"
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -11,10 +13,9 @@ class Finding : public Fresh {
 protected:
     Finding()
     {
-        screen.showSpeedWindow = [] { speedChosen(9); };
+        mainView.showSpeedWindow = [] { speedChosen(9); };
         for (int row = 0; row < 3; ++row)
-            session.findRow[row] = {QStringLiteral("1"), QStringLiteral("Name"), QStringLiteral("includes"),
-                                    QString(QChar(char16_t(u'a' + row)))};
+            session.findRow[row] = {u"1"_s, u"Name"_s, u"includes"_s, QString(QChar(char16_t(u'a' + row)))};
     }
 };
 
@@ -22,7 +23,7 @@ protected:
 
 TEST_F(Finding, AStoppedRunStillCountsAndAnUnknownRuleMovesNothing)
 {
-    cards({QStringLiteral("a"), QStringLiteral("a")});
+    cards({u"a"_s, u"a"_s});
     recorded.inYield = [](int round) {
         if (round == 2)
             stopRun();
@@ -32,10 +33,10 @@ TEST_F(Finding, AStoppedRunStillCountsAndAnUnknownRuleMovesNothing)
     EXPECT_NEAR(session.box[1].top, 190, 1e-9);
     EXPECT_EQ(session.box[2].top, 200);
 
-    session.andOr[1] = QStringLiteral("and");
-    cards({QStringLiteral("a")});
+    session.andOr[1] = u"and"_s;
+    cards({u"a"_s});
     runFind();
     EXPECT_EQ(session.foundCount, 0);
     EXPECT_EQ(session.box[1].top, 200);
-    EXPECT_EQ(session.searchTitle.text, QStringLiteral("Search for: Name includes a and Name includes c "));
+    EXPECT_EQ(session.board.searchTitle.text, u"Search for: Name includes a and Name includes c "_s);
 }

@@ -4,13 +4,15 @@
 #include "support/freshStart.h"
 #include "tools/pacing.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 class Flight : public Fresh {
 protected:
     Flight()
     {
-        cards({QStringLiteral("one")});
+        cards({u"one"_s});
         prepareAnimation();
     }
 };
@@ -19,9 +21,9 @@ protected:
 
 TEST_F(Flight, StepsAreHalfTheSpeedAndEndWithinOneStep)
 {
-    session.animationSpeed = 10;
+    session.run.animationSpeed = 10;
     EXPECT_TRUE(flyAlong(1, Axis::x, 131));
-    EXPECT_EQ(session.box[1].left, 125); // 5 a round, and stops once it is nearer than 10
+    EXPECT_EQ(session.box[1].left, 125); // 5 a round, and stops once it is closer than 10
     EXPECT_EQ(recorded.rounds, 5);
     EXPECT_EQ(recorded.redrawnCards.size(), 5U);
     EXPECT_TRUE(flyOnto(1, Axis::x, 20));
@@ -36,11 +38,11 @@ TEST_F(Flight, ChangesOfSpeedActOnTheFlightUnderWay)
         if (round == 4)
             speedChosen(9); // waits for the resume
         if (round == 5) {
-            EXPECT_EQ(session.animationSpeed, 0);
+            EXPECT_EQ(session.run.animationSpeed, 0);
             resumeRun();
-            EXPECT_EQ(session.animationSpeed, 10);
+            EXPECT_EQ(session.run.animationSpeed, 10);
             speedChosen(12); // selects nothing
-            EXPECT_EQ(session.animationSpeed, 10);
+            EXPECT_EQ(session.run.animationSpeed, 10);
         }
     };
     flyOnto(1, Axis::y, 300);
@@ -57,17 +59,17 @@ TEST_F(Flight, AStoppedRunLeavesTheCardWhereItIs)
     moveCardTo(1, 900, 600);
     EXPECT_NEAR(session.box[1].left, 101.5, 1e-9);
     EXPECT_EQ(session.box[1].top, 200);
-    EXPECT_FALSE(session.cardPlaced[1]);
+    EXPECT_FALSE(session.run.cardPlaced[1]);
     EXPECT_THROW(moveCardTo(1, 40000, 0), RuntimeError);
 }
 
 TEST_F(Flight, ACentreIsReachedInWholePixels)
 {
     session.box[1].width = 81;
-    session.animationSpeed = 10;
+    session.run.animationSpeed = 10;
     moveCardTo(1, 500, 300);
     EXPECT_EQ(session.box[1].left, 460); // 459.5 goes to the even neighbour
     EXPECT_EQ(session.box[1].top, 270);
-    EXPECT_TRUE(session.cardPlaced[1]);
+    EXPECT_TRUE(session.run.cardPlaced[1]);
     EXPECT_EQ(session.cardStack.fromBelow().back(), 1);
 }

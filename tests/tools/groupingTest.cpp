@@ -1,6 +1,6 @@
 #include "tools/grouping.h"
 
-#include "core/screen.h"
+#include "core/mainView.h"
 #include "support/cards.h"
 #include "support/freshStart.h"
 #include "tools/pacing.h"
@@ -11,7 +11,7 @@ class Grouping : public Fresh {
 protected:
     Grouping()
     {
-        screen.showSpeedWindow = [] { speedChosen(9); };
+        mainView.showSpeedWindow = [] { speedChosen(9); };
     }
 };
 
@@ -22,7 +22,7 @@ TEST_F(Grouping, OfNoCardsShowsOtherAloneAcrossTheBoard)
     cards({});
     buildGroups(1);
     moveCardsToGroups(1);
-    EXPECT_EQ(session.GroupLabel[0].left, 0);
-    EXPECT_EQ(session.GroupLabel[0].width, 1000);
+    EXPECT_EQ(session.board.groupTitle[0].left, 0);
+    EXPECT_EQ(session.board.groupTitle[0].width, 1000);
     EXPECT_TRUE(recorded.messages.isEmpty());
 }

@@ -1,10 +1,12 @@
 #include "tools/sorting.h"
 
-#include "core/screen.h"
-#include "store/opening.h"
+#include "core/mainView.h"
+#include "database/opening.h"
 #include "support/cards.h"
 #include "support/database.h"
 #include "tools/pacing.h"
+
+using namespace Qt::StringLiterals;
 
 using testing::ElementsAre;
 
@@ -14,8 +16,8 @@ class Sorting : public Fresh {
 protected:
     Sorting()
     {
-        screen.showSpeedWindow = [this] { speedChosen(9), speedWindowOpen = true; };
-        screen.unloadSpeedWindow = [this] { stopRun(), speedWindowOpen = false; };
+        mainView.showSpeedWindow = [this] { speedChosen(9), speedWindowOpen = true; };
+        mainView.unloadSpeedWindow = [this] { stopRun(), speedWindowOpen = false; };
     }
 
     bool speedWindowOpen = false;
@@ -27,25 +29,27 @@ TEST_F(Sorting, OfNoCardsIsReportedAndLeavesTheSpeedWindow)
 {
     cards({});
     sortTextUp(1);
-    EXPECT_THAT(recorded.messages, ElementsAre(QStringLiteral("Error|Division by zero")));
+    EXPECT_THAT(recorded.messages, ElementsAre(u"Error|Division by zero"_s));
     EXPECT_TRUE(speedWindowOpen);
 }
 
 TEST_F(Sorting, PassesOverARoundThatFindsNoCard)
 {
-    cards({QStringLiteral("1"), QStringLiteral("2"), QStringLiteral("3")}, QStringLiteral("123"));
-    recorded.inYield = [](int) { session.cardValue[3][1] = QStringLiteral("99"); }; // beyond the seed by now
+    cards({u"1"_s, u"2"_s, u"3"_s}, u"123"_s);
+    recorded.inYield = [](int) {
+        session.cardValue[3][1] = u"99"_s;
+    }; // now greater than the initial best value
     sortNumbersUp(1);
-    EXPECT_TRUE(session.cardPlaced[1]);
-    EXPECT_TRUE(session.cardPlaced[2]);
-    EXPECT_FALSE(session.cardPlaced[3]);
+    EXPECT_TRUE(session.run.cardPlaced[1]);
+    EXPECT_TRUE(session.run.cardPlaced[2]);
+    EXPECT_FALSE(session.run.cardPlaced[3]);
     EXPECT_TRUE(recorded.messages.isEmpty());
 }
 
 TEST_F(Sorting, OpeningAnotherDatabaseLeavesItsCardsWhereTheyAreLaid)
 {
-    openChosenFolder(writeDatabase(QStringLiteral("old"), 3));
-    const QString other = writeDatabase(QStringLiteral("new"), 3);
+    openChosenFolder(writeDatabase(u"old"_s, 3));
+    const QString other = writeDatabase(u"new"_s, 3);
     recorded.inYield = [&](int round) {
         if (round == 3)
             openChosenFolder(other);
@@ -56,6 +60,6 @@ TEST_F(Sorting, OpeningAnotherDatabaseLeavesItsCardsWhereTheyAreLaid)
         lie.emplace_back(session.box[card].left, session.box[card].top);
     tileCards();
     for (int card = 1; card <= session.numCards; ++card)
-        EXPECT_EQ(lie[std::size_t(card - 1)], QPointF(session.box[card].left, session.box[card].top)) << card;
+        EXPECT_EQ(lie[card - 1], QPointF(session.box[card].left, session.box[card].top)) << card;
     EXPECT_FALSE(speedWindowOpen);
 }

@@ -1,15 +1,18 @@
-// The tools' dialogs, driven as a child would.
+// The tools' dialogs, used with mouse and keys.
 #include "tools/FrmSpeed.h"
 #include "tools/findForm.h"
 #include "tools/toolCommands.h"
 
 #include "board/mode.h"
-#include "core/screen.h"
-#include "platform/forms.h"
+#include "controls/forms.h"
+#include "core/mainView.h"
 #include "support/cards.h"
+#include "support/files.h"
 #include "support/freshStart.h"
+#include "tools/groupForm.h"
 #include "tools/moveForm.h"
 #include "tools/pacing.h"
+#include "tools/sortForm.h"
 #include "tools/warnForm.h"
 
 #include <QCheckBox>
@@ -20,6 +23,8 @@
 #include <QSlider>
 #include <QTest>
 
+using namespace Qt::StringLiterals;
+
 using testing::ElementsAre;
 
 namespace {
@@ -29,12 +34,12 @@ protected:
     ToolForms()
     {
         session.numFields = 2;
-        session.fieldName[1] = QStringLiteral("Name");
-        session.fieldName[2] = QStringLiteral("Legs");
-        cards({QStringLiteral("pear"), QStringLiteral("apple")});
-        session.fieldType[2] = QStringLiteral("123");
-        session.sortDirection = QStringLiteral("ABC");
-        screen.showSpeedWindow = [] { speedChosen(9); };
+        session.fieldName[1] = u"Name"_s;
+        session.fieldName[2] = u"Legs"_s;
+        cards({u"pear"_s, u"apple"_s});
+        session.fieldType[2] = u"123"_s;
+        session.sortDirection = u"ABC"_s;
+        mainView.showSpeedWindow = [] { speedChosen(9); };
     }
 
     template <class Control>
@@ -63,10 +68,10 @@ protected:
 
 TEST_F(ToolForms, SortByTheFieldPickedAndKeepTheDirectionForTheNextTime)
 {
-    session.cardValue[1][2] = QStringLiteral("4");
-    session.cardValue[2][2] = QStringLiteral("10");
+    session.cardValue[1][2] = u"4"_s;
+    session.cardValue[2][2] = u"10"_s;
     answer([](QDialog& dialog) {
-        EXPECT_EQ(part<QComboBox>(dialog, "sortCombo").currentText(), QStringLiteral("Name"));
+        EXPECT_EQ(part<QComboBox>(dialog, "sortCombo").currentText(), u"Name"_s);
         pick(dialog, "sortCombo", "Legs");
         part<QRadioButton>(dialog, "sortOpt1").click();
         QTest::keyClick(&dialog, Qt::Key_Return);
@@ -91,12 +96,12 @@ TEST_F(ToolForms, FindTellsTheNumberOfCards)
         EXPECT_FALSE(part<QWidget>(dialog, "vennTick").isVisible());
         pick(dialog, "fieldCombo0", "Name");
         pick(dialog, "compBox0", "includes");
-        QTest::keyClicks(&part<QLineEdit>(dialog, "valBox0"), QStringLiteral("pp"));
+        QTest::keyClicks(&part<QLineEdit>(dialog, "valBox0"), u"pp"_s);
         press(dialog, "YesBut");
     });
     findCommand();
-    EXPECT_THAT(recorded.messages, ElementsAre(QStringLiteral("Find Results|Number of cards found: 1")));
-    EXPECT_EQ(session.searchTitle.text, QStringLiteral("Search for: Name includes pp "));
+    EXPECT_THAT(recorded.messages, ElementsAre(u"Find Results|Number of cards found: 1"_s));
+    EXPECT_EQ(session.board.searchTitle.text, u"Search for: Name includes pp "_s);
 }
 
 TEST_F(ToolForms, FindShowsItsRowsByTheWindowsHeight)
@@ -110,7 +115,7 @@ TEST_F(ToolForms, FindShowsItsRowsByTheWindowsHeight)
         int height;
         bool venn;
     };
-    // Setting the first word back leaves the second one, and with it a height of its own.
+    // Resetting the first word keeps the second one, and with it another height.
     constexpr Step steps[] = {{"andOr0", "and", 366, true},
                               {"andOr1", "or", 433, false},
                               {"andOr1", " ", 420, true},
@@ -120,59 +125,74 @@ TEST_F(ToolForms, FindShowsItsRowsByTheWindowsHeight)
         pick(find, each.box, each.word);
         EXPECT_EQ(find.height(), each.height) << each.box << each.word;
         EXPECT_EQ(part<QCheckBox>(find, "vennTick").isVisible(), each.venn) << each.box << each.word;
+        for (auto* control : find.findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly))
+            EXPECT_TRUE(control->isHidden() || control->y() < each.height)
+                << control->objectName().toStdString();
     }
+    pick(find, "andOr1", "and"); // kept below the window's edge
+    pick(find, "andOr0", "and");
+    EXPECT_TRUE(part<QWidget>(find, "valBox1").isVisible());
+    EXPECT_FALSE(part<QWidget>(find, "valBox2").isVisible());
 }
 
 TEST_F(ToolForms, FindTakesOnlyNumbersForANumberFieldAndAnswersFromItsList)
 {
     session.fieldUseList[2] = true;
-    session.fieldListItem[2][3] = QStringLiteral("8");
+    session.fieldListItem[2][3] = u"8"_s;
     findForm& find = form<findForm>();
     find.prepare();
     find.show();
     EXPECT_FALSE(part<QWidget>(find, "pullDownBut0").isVisible());
     pick(find, "fieldCombo0", "Legs");
-    QTest::keyClicks(&part<QLineEdit>(find, "valBox0"), QStringLiteral("a-1,2.5"));
-    EXPECT_EQ(session.findRow[0].value, QStringLiteral("-12.5"));
+    QTest::keyClicks(&part<QLineEdit>(find, "valBox0"), u"a-1,2.5"_s);
+    EXPECT_EQ(session.findRow[0].value, u"-12.5"_s);
     press(find, "pullDownBut0");
     EXPECT_TRUE(part<QWidget>(find, "AnswerHolder").isVisible());
     press(find, "pullDownBut0");
     EXPECT_FALSE(part<QWidget>(find, "AnswerHolder").isVisible());
     press(find, "pullDownBut0");
     press(find, "possAnswer3");
-    EXPECT_EQ(session.findRow[0].value, QStringLiteral("8"));
+    EXPECT_EQ(session.findRow[0].value, u"8"_s);
     EXPECT_FALSE(part<QWidget>(find, "AnswerHolder").isVisible());
+}
+
+TEST_F(ToolForms, AllOfferTheVideoAboutEnteringData)
+{
+    for (QWidget* dialog : std::initializer_list<QWidget*>{&form<findForm>(), &form<sortForm>(),
+                                                           &form<groupForm>(), &form<moveForm>()})
+        press(*dialog, "BtnVid");
+    EXPECT_EQ(recorded.started, QStringList(4, inTestFolder(u"Videos/Entering Data.exe /shc"_s)));
 }
 
 TEST_F(ToolForms, TheSpeedWindowPausesResumesAndEndsARun)
 {
     QWidget window;
     window.resize(1000, 700);
-    installSpeedWindow(window);
+    mainView.showSpeedWindow = [&window] { showSpeedWindow(&window); };
     beginRun();
     FrmSpeed& speed = form<FrmSpeed>();
     part<QSlider>(speed, "Slider1").setValue(8);
-    EXPECT_EQ(session.animationSpeed, 5);
+    EXPECT_EQ(session.run.animationSpeed, 5);
     press(speed, "BtnPause");
-    EXPECT_EQ(session.animationSpeed, 0);
+    EXPECT_EQ(session.run.animationSpeed, 0);
     EXPECT_FALSE(part<QWidget>(speed, "BtnPause").isVisible());
     part<QSlider>(speed, "Slider1").setValue(1);
     press(speed, "BtnResume");
-    EXPECT_EQ(session.animationSpeed, 0.1);
+    EXPECT_EQ(session.run.animationSpeed, 0.1);
     speed.close();
-    EXPECT_TRUE(session.animationStopped);
+    EXPECT_TRUE(session.run.stopped);
     EXPECT_FALSE(isLoaded<FrmSpeed>());
 }
 
 TEST_F(ToolForms, TheQuestionAboutACardGrowsWithItsLabel)
 {
-    session.cardValue[1][1] = QStringLiteral("ox");
+    session.cardValue[1][1] = u"ox"_s;
     form<warnForm>().askAbout(1);
     EXPECT_EQ(form<warnForm>().width(), 4275 / 15);
-    session.cardValue[1][1] = QString(60, QLatin1Char('x'));
+    session.cardValue[1][1] = QString(60, u'x');
     form<warnForm>().askAbout(1);
     EXPECT_GT(form<warnForm>().width(), 4275 / 15);
-    session.cardValue[1][1] = QString(5000, QLatin1Char('x'));
+    session.cardValue[1][1] = QString(5000, u'x');
     form<warnForm>().askAbout(1);
     EXPECT_LT(form<warnForm>().width(), 1280);
 }

@@ -1,0 +1,50 @@
+#include "analysis/analysisCommands.h"
+
+#include "analysis/graph.h"
+#include "analysis/graphWiz.h"
+#include "analysis/groupTable.h"
+#include "analysis/refusals.h"
+#include "analysis/statsForm.h"
+#include "controls/forms.h"
+#include "core/session.h"
+#include "platform/errors.h"
+
+namespace {
+
+void graphFromWizard()
+{
+    form<graphWiz>().prepare();
+    if (!saysOk(form<graphWiz>()))
+        return;
+    if (session.graph.showAllData)
+        listValues(session.chosenField);
+    else
+        countGroups(session.chosenField);
+    findGraphMax();
+    sortGroups(session.chosenField);
+    drawGraph();
+}
+
+} // namespace
+
+void makeGraph()
+{
+    if (session.numCards > mostCardsInGraph)
+        refuseGraphOfSoMany();
+    else if (session.numCards <= 0)
+        refuseGraph();
+    else
+        withErrorBox(graphFromWizard);
+}
+
+void showStatistics()
+{
+    if (session.numCards <= 0) {
+        refuseStatistics();
+        return;
+    }
+    withErrorBox([] {
+        form<statsForm>().prepare();
+        ask(form<statsForm>());
+    });
+}

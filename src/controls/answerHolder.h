@@ -1,0 +1,47 @@
+// The pull-down list of ready answers beside a value: twelve lines in a scrolling panel, including empty
+// ones.
+#pragma once
+
+#include <QFrame>
+#include <QPointer>
+#include <QStringList>
+
+#include <functional>
+
+class QPushButton;
+
+class AnswerHolder : public QFrame {
+    Q_OBJECT
+public:
+    static constexpr int lines = 12;
+
+    /// `lineHeight` in pixels.
+    AnswerHolder(QWidget* parent, int lineHeight, int linesInView);
+
+    /// The twelve answers, items 0..11; missing ones are blank lines.
+    void setAnswers(const QStringList& texts);
+
+    /// Opens the list of `button`, with these answers and the focus, or closes it when it is open already. It
+    /// is as wide as `box` (in the parent's pixels) and below it, or above it if there is more room. Choosing
+    /// a line closes the list and calls `picked` with the answer. Closing it gives `button` the focus, except
+    /// by putAway().
+    void toggle(QPushButton& button, const QStringList& texts, const QRect& box,
+                const std::function<void(const QString& answer)>& picked);
+
+    /// Closes the list without moving the focus.
+    void putAway();
+
+protected:
+    void hideEvent(QHideEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void lieBeside(const QRect& box);
+    void light(QPushButton* line);
+    void moveFocus(QPushButton* from, int by);
+
+    QList<QPushButton*> possAnswer; // 0..11 for answers 1..12
+    QStringList answers;
+    QPointer<QPushButton> owner; // the button whose list is open
+    std::function<void(const QString& answer)> picked;
+};

@@ -1,0 +1,104 @@
+#include "controls/dialogParts.h"
+
+#include "controls/balloon.h"
+#include "platform/desktop.h"
+#include "platform/errors.h"
+#include "platform/picture.h"
+
+#include <QApplication>
+#include <QHBoxLayout>
+#include <QIcon>
+
+using namespace Qt::StringLiterals;
+
+QLabel* words(const QString& text, const char* role)
+{
+    auto* label = new QLabel(text);
+    label->setTextFormat(Qt::PlainText);
+    label->setWordWrap(true);
+    label->setProperty("role", QLatin1String(role));
+    return label;
+}
+
+QLabel* pictureLabel(const QString& name, QSize size)
+{
+    auto* label = new QLabel;
+    label->setPixmap(picture(name, size));
+    return label;
+}
+
+QPushButton* iconButton(const QString& picture, const QString& meaning, const QString& hint)
+{
+    auto* button = new QPushButton(QIcon(picturePath(picture)), QString());
+    button->setAccessibleName(meaning);
+    if (!hint.isEmpty())
+        giveHint(*button, hint);
+    return button;
+}
+
+void keepPlaceWhenHidden(QWidget& widget)
+{
+    QSizePolicy policy = widget.sizePolicy();
+    policy.setRetainSizeWhenHidden(true);
+    widget.setSizePolicy(policy);
+}
+
+void onClick(QAbstractButton* button, const std::function<void()>& handler)
+{
+    QObject::connect(button, &QAbstractButton::clicked, button, [handler] { guarded(handler); });
+}
+
+void onClickLater(QAbstractButton* button, const std::function<void()>& handler)
+{
+    const auto ifStillMeant = [button, handler] {
+        const QWidget* dialog = QApplication::activeModalWidget();
+        if (button->isVisible() && (!dialog || dialog == button->window()))
+            guarded(handler);
+    };
+    QObject::connect(button, &QAbstractButton::clicked, button, ifStillMeant, Qt::QueuedConnection);
+}
+
+void onToggle(QAbstractButton* button, const std::function<void(bool)>& handler)
+{
+    QObject::connect(button, &QAbstractButton::toggled, button,
+                     [handler](bool ticked) { guarded([&] { handler(ticked); }); });
+}
+
+void letTabFindTheChosen(std::initializer_list<QAbstractButton*> options)
+{
+    for (QAbstractButton* option : options)
+        option->setFocusPolicy(option->isChecked() ? Qt::StrongFocus : Qt::ClickFocus);
+}
+
+void chainTabs(std::initializer_list<QWidget*> controls)
+{
+    QWidget* before = nullptr;
+    for (QWidget* next : controls) {
+        if (before)
+            QWidget::setTabOrder(before, next);
+        before = next;
+    }
+}
+
+QLayout* answerRow(QWidget* answers, QWidget* video)
+{
+    auto* row = new QHBoxLayout;
+    row->addWidget(answers);
+    row->addStretch(1);
+    row->addWidget(video);
+    return row;
+}
+
+QPushButton* videoButton(const QString& tutorial)
+{
+    auto* button = named(new QPushButton(u"Watch a video"_s), "BtnVid");
+    button->setIcon(QIcon(picturePath(u"welcomeVideo"_s)));
+    button->setProperty("role", u"video"_s);
+    onClick(button, [tutorial] { ignoringErrors({[&] { startTutorial(tutorial); }}); });
+    return button;
+}
+
+void startTutorial(const QString& tutorial)
+{
+    desktop.programs.start(desktop.files.programFolder() + u"/Videos/"_s + tutorial + u".exe"_s, {u"/shc"_s});
+}

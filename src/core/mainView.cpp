@@ -1,0 +1,31 @@
+#include "core/mainView.h"
+
+MainView blankMainView()
+{
+    MainView blank;
+    blank.redrawBoard = [] {};
+    blank.redrawCard = [](int) {};
+    blank.showTitle = [] {};
+    blank.showControls = [] {};
+    blank.showTable = [] {};
+    blank.redrawTable = [] {};
+    blank.chartPicture = [] { return QImage(); };
+    blank.measureLabel = [](const QString&, double&, double&) {};
+    blank.showSpeedWindow = [] {};
+    blank.unloadSpeedWindow = [] {};
+    blank.showHint = [](const QString&) {};
+    blank.hideHints = [] {};
+    blank.openCard = [](int) {};
+    blank.cardDropped = [](int) {};
+    blank.openPictureEditor = [] {};
+    blank.openTeacherOptions = [] {};
+    blank.newDatabase = [] {};
+    blank.openDatabase = [] {};
+    blank.watchTutorial = [](const QString&) {};
+    blank.installTutorials = [] {};
+    blank.showClues = [] {};
+    blank.setRefresh = [](const QString&) {};
+    return blank;
+}
+
+MainView mainView = blankMainView();

@@ -1,0 +1,7 @@
+// Starting a video tutorial, or offering to install the tutorials.
+#pragma once
+
+#include <QString>
+
+/// Starts the tutorial of that name. If it can't be started, asks whether to install the tutorials.
+void watchTutorial(const QString& tutorial);

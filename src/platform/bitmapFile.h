@@ -1,0 +1,8 @@
+// Bitmap files (BMP): Qt's reader behind checks of our own.
+#pragma once
+
+#include <QByteArray>
+#include <QImage>
+
+/// The picture in the bytes of a bitmap file, in 32 bits. Raises 481 when they are no whole one.
+QImage decodeBitmap(const QByteArray& bytes);

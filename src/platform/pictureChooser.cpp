@@ -1,0 +1,71 @@
+#include "platform/pictureChooser.h"
+
+#include "platform/errands.h"
+#include "platform/owningWindow.h"
+#include "platform/pictureFile.h"
+
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QGridLayout>
+#include <QLabel>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr QSize previewSize(200, 152);
+constexpr QSize dialogSize(860, 500);
+
+class Preview : public QLabel {
+public:
+    Preview()
+    {
+        setObjectName(u"preview"_s);
+        setFixedSize(previewSize);
+        setAlignment(Qt::AlignCenter);
+        setWordWrap(true);
+        setAccessibleName(u"Preview"_s);
+    }
+
+    void showFile(const QString& path)
+    {
+        wanted = path;
+        errands.forgetWaiting();
+        clear();
+        if (!QFileInfo(path).isFile())
+            return;
+        errands.send([path](const Errands::Forgotten&) { return readPicture(path, previewSize); },
+                     [this, path](const QImage& read) {
+                         if (path == wanted)
+                             showPicture(read);
+                     });
+    }
+
+private:
+    void showPicture(const QImage& read)
+    {
+        if (read.isNull())
+            setText(u"This is not a picture"_s);
+        else
+            setPixmap(QPixmap::fromImage(
+                read.scaled(contentsRect().size(), Qt::KeepAspectRatio, Qt::SmoothTransformation)));
+    }
+
+    Errands errands;
+    QString wanted;
+};
+
+} // namespace
+
+QString choosePictureFile(const QString& caption, const QString& startFolder, const QString& filter)
+{
+    QFileDialog dialog(owningWindow(), caption, startFolder, filter);
+    dialog.setFileMode(QFileDialog::ExistingFile);
+    dialog.setOption(QFileDialog::DontUseNativeDialog);
+    dialog.resize(dialogSize);
+    auto* preview = new Preview;
+    auto* grid = static_cast<QGridLayout*>(dialog.layout());
+    grid->addWidget(preview, 1, grid->columnCount(), Qt::AlignTop);
+    QObject::connect(&dialog, &QFileDialog::currentChanged, preview, &Preview::showFile);
+    return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
+}

@@ -1,0 +1,44 @@
+#include "store/fileStates.h"
+
+#include "platform/wholeFile.h"
+#include "store/paths.h"
+
+namespace {
+
+FileState stateOf(const QString& path, qint64 limit)
+{
+    try {
+        return {0, readWholeFile(path, limit)};
+    } catch (const RuntimeError& error) {
+        return {error.number(), {}};
+    }
+}
+
+} // namespace
+
+QByteArray readAndRemember(const QString& path, qint64 limit)
+{
+    const FileState state = stateOf(path, limit);
+    session.fileStates.insert(path, state);
+    if (state.error)
+        throw RuntimeError(state.error);
+    return state.bytes;
+}
+
+FileState knownState(const QString& path) { return session.fileStates.value(path); }
+
+FileState stateOnDisk(const QString& path) { return stateOf(path, largestFile); }
+
+FileState stateToReplace(const QString& path)
+{
+    const FileState state = stateOnDisk(path);
+    if (state.error && state.error != fileNotFound)
+        throw RuntimeError(state.error == pathNotFound ? pathNotFound : pathAccessError);
+    return state;
+}
+
+void replaceAndRemember(const QString& path, const QByteArray& bytes)
+{
+    replaceFile(path, bytes, filePathIn(session.dbPath, descriptionName));
+    session.fileStates.insert(path, {0, bytes});
+}

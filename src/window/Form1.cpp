@@ -1,0 +1,222 @@
+#include "window/Form1.h"
+
+#include "analysis/graph.h"
+#include "board/boardWidget.h"
+#include "board/mode.h"
+#include "board/tablePanel.h"
+#include "controls/balloon.h"
+#include "controls/chartView.h"
+#include "controls/dialogParts.h"
+#include "controls/forms.h"
+#include "core/mainView.h"
+#include "core/menu.h"
+#include "core/session.h"
+#include "core/title.h"
+#include "database/loading.h"
+#include "platform/desktop.h"
+#include "platform/errors.h"
+#include "platform/picture.h"
+#include "window/mainSettings.h"
+#include "window/shutDown.h"
+#include "window/startValues.h"
+#include "window/windowLayout.h"
+
+#include <QAccessibleWidget>
+#include <QApplication>
+#include <QCloseEvent>
+#include <QHBoxLayout>
+#include <QIcon>
+#include <QKeyEvent>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr QSize leastSize(700, 400);
+
+QPushButton* modeButton(const char* name, const char* tag, const QString& pictureName,
+                        const QString& spokenName)
+{
+    auto* button = named(iconButton(pictureName, spokenName, spokenName), name);
+    button->setCheckable(true);
+    button->setProperty("Tag", QLatin1String(tag));
+    return button;
+}
+
+QTimer* onceTimer(const char* name, int interval, QObject* parent)
+{
+    auto* timer = named(new QTimer(parent), name);
+    timer->setSingleShot(true);
+    timer->setInterval(interval);
+    return timer;
+}
+
+void follow(QWidget& control, const ControlState& state)
+{
+    control.setVisible(state.visible);
+    control.setEnabled(state.enabled);
+    if (auto* button = qobject_cast<QAbstractButton*>(&control); button && button->isCheckable())
+        button->setChecked(state.pressed);
+}
+
+/// Ctrl, Shift and the teacher's letter, without any other modifier.
+bool opensTeacherOptions(const QKeyEvent& key)
+{
+    return key.modifiers() == (Qt::ControlModifier | Qt::ShiftModifier) &&
+           key.key() <= 0xffff && // a character, not a key such as Control itself
+           QString(QChar(char16_t(key.key())).toUpper()) == session.options.keysValue;
+}
+
+/// By default assistive technology takes a plain QWidget for an area; this makes the main window a window.
+QAccessibleInterface* windowForReaders(const QString& className, QObject* object)
+{
+    return className == "Form1"_L1 ? new QAccessibleWidget(static_cast<QWidget*>(object), QAccessible::Window)
+                                   : nullptr;
+}
+
+} // namespace
+
+Form1::Form1()
+    : board(named(new BoardWidget(this), "board"))
+    , toolbarBlock(named(new QWidget(this), "toolbarBlock"))
+    , menuBar(new MenuBar(this))
+    , btnCards(modeButton("btnCards", "card", u"modeCards"_s, u"Card Mode"_s))
+    , btnTable(modeButton("btnTable", "table", u"modeTable"_s, u"Table Mode"_s))
+    , PicRef(named(pictureLabel(u"refresh"_s, {28, 28}), "PicRef"))
+    , refreshCheck(named(new QCheckBox(u"Refresh Database"_s), "refreshCheck"))
+    , cmdQuestion(named(iconButton(u"clue"_s, u"Show Clues"_s, u"Show Clues"_s), "cmdQuestion"))
+    , cmdCopyGraph(named(new QPushButton(u"Copy Graph"_s), "cmdCopyGraph"))
+    , tablePanel(new TablePanel(this))
+    , MSChart(named(new ChartView(this), "MSChart"))
+    , tmrDelCard(onceTimer("tmrDelCard", 2, this))
+    , TmrShow(onceTimer("TmrShow", 3000, this))
+{
+    QAccessible::installFactory(windowForReaders);
+    setMinimumSize(leastSize);
+    tablePanel->hide();
+    MSChart->hide();
+    fillBand();
+    connectControls();
+    board->setFocus(); // no heading has the focus ring before a key is pressed
+}
+
+void Form1::fillBand()
+{
+    auto* row = new QHBoxLayout(toolbarBlock);
+    row->setContentsMargins({});
+    row->addWidget(menuBar);
+    for (QWidget* control :
+         std::initializer_list<QWidget*>{btnCards, btnTable, PicRef, refreshCheck, cmdQuestion, cmdCopyGraph})
+        row->addWidget(control);
+    row->addStretch();
+}
+
+void Form1::connectControls()
+{
+    for (QPushButton* button : {btnCards, btnTable})
+        connect(button, &QPushButton::clicked, this, [this, button] {
+            guarded([this, button] { changeMode(*button); });
+            showControls(); // resets the button if the mode couldn't be changed
+        });
+    onClick(refreshCheck, [this] { mainView.setRefresh(refreshCheck->isChecked() ? u"On"_s : u"Off"_s); });
+    connect(refreshCheck, &QCheckBox::clicked, this, &Form1::showControls); // also after an error
+    onClick(cmdQuestion, [] { mainView.showClues(); });
+    onClickLater(cmdCopyGraph, copyGraph);
+    MSChart->pressed = closeMenu; // as on the bare board
+    connect(tmrDelCard, &QTimer::timeout, this, [] { guarded(rereadDeleteOption); });
+    qApp->installEventFilter(this); // sees every key before the focused control
+}
+
+/// Changes the mode and reloads the folder, after a click on a mode button.
+void Form1::changeMode(const QPushButton& button)
+{
+    loadAllCards();
+    session.graph.graphOnScreen = 0;
+    session.window.btnCards.pressed = &button == btnCards;
+    session.window.btnTable.pressed = &button == btnTable;
+    session.window.cmdCopyGraph.visible = false;
+    setMode(button.property("Tag").toString());
+}
+
+void Form1::load()
+{
+    setControlsAtStart();
+    setTitle(titleWithoutDatabase());
+    desktop.screen.setBusyPointer(false);
+    loadMainSettings();
+    if (session.options.txtShow == "True"_L1)
+        TmrShow->start();
+    tmrDelCard->start();
+    showControls();
+}
+
+void Form1::layoutWindow()
+{
+    try {
+        const WindowLayout place = windowLayout(size(), desktop.screen.size().width());
+        toolbarBlock->setGeometry(place.toolbarBlock);
+        tablePanel->setGeometry(place.tablePanel);
+        MSChart->setGeometry(place.MSChart);
+        tablePanel->layOut(place.Grid, place.gridScroll);
+    } catch (const RuntimeError&) {
+        desktop.boxes.showMessage(MessageIcon::exclamation, u"Tallymoor"_s,
+                                  u"You cannot resize Tallymoor to this size!"_s);
+    }
+}
+
+void Form1::showControls()
+{
+    menuBar->showState();
+    follow(*btnCards, session.window.btnCards);
+    follow(*btnTable, session.window.btnTable);
+    follow(*PicRef, session.window.PicRef);
+    follow(*refreshCheck, session.window.refreshCheck);
+    follow(*cmdQuestion, session.window.cmdQuestion);
+    follow(*cmdCopyGraph, session.window.cmdCopyGraph);
+    follow(*tablePanel, session.table.panel);
+    showChart();
+}
+
+/// A chart that comes into view gets the focus, so that a screen reader tells it; the board gets it back.
+void Form1::showChart()
+{
+    const bool comes = session.window.MSChart.visible && !MSChart->isVisible();
+    const bool goes = !session.window.MSChart.visible && focusWidget() == MSChart;
+    if (session.window.MSChart.visible)
+        MSChart->setChart(session.graph.chart);
+    follow(*MSChart, session.window.MSChart);
+    if (comes)
+        MSChart->setFocus();
+    else if (goes)
+        board->setFocus();
+}
+
+void Form1::resizeEvent(QResizeEvent*)
+{
+    board->resize(size());
+    session.board.width = width();
+    session.board.height = height();
+    guarded([this] { layoutWindow(); });
+}
+
+/// A click in the band beside its controls counts as a click on the empty board.
+void Form1::mouseReleaseEvent(QMouseEvent*) { guarded(closeMenu); }
+
+void Form1::closeEvent(QCloseEvent* event)
+{
+    guarded(shutDown);
+    event->accept();
+}
+
+bool Form1::eventFilter(QObject* watched, QEvent* event)
+{
+    auto* control = qobject_cast<QWidget*>(watched);
+    if (event->type() != QEvent::KeyPress || !control || control->window() != this ||
+        !opensTeacherOptions(*static_cast<QKeyEvent*>(event)))
+        return false;
+    guarded([] {
+        mainView.setRefresh(u"Off"_s);
+        mainView.openTeacherOptions();
+    });
+    return true;
+}

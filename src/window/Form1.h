@@ -1,0 +1,53 @@
+// The main window: the board over its whole area, the menu band on top of it, and the table below the band.
+#pragma once
+
+#include "window/menuBar.h"
+
+#include <QCheckBox>
+#include <QLabel>
+#include <QPushButton>
+#include <QTimer>
+#include <QWidget>
+
+class BoardWidget;
+class ChartView;
+
+class TablePanel;
+
+class Form1 : public QWidget {
+    Q_OBJECT
+public:
+    Form1();
+    void load();
+
+    /// Places the window's parts for its size; shows an error if it is too small.
+    void layoutWindow();
+    /// Updates the controls from their states in the session.
+    void showControls();
+
+    BoardWidget* const board;
+    QWidget* const toolbarBlock;
+    MenuBar* const menuBar;
+    QPushButton* const btnCards;
+    QPushButton* const btnTable;
+    QLabel* const PicRef;
+    QCheckBox* const refreshCheck;
+    QPushButton* const cmdQuestion;
+    QPushButton* const cmdCopyGraph;
+    TablePanel* const tablePanel;
+    ChartView* const MSChart; // over board and table, under the menu
+    QTimer* const tmrDelCard; // 2 ms, single shot: reads its option again
+    QTimer* const TmrShow;    // 3000 ms, single shot: does nothing
+
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void fillBand();
+    void connectControls();
+    void changeMode(const QPushButton& button);
+    void showChart();
+};

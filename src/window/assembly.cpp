@@ -1,0 +1,77 @@
+#include "window/assembly.h"
+
+#include "board/boardWidget.h"
+#include "board/tablePanel.h"
+#include "controls/balloon.h"
+#include "controls/chartView.h"
+#include "controls/forms.h"
+#include "core/mainView.h"
+#include "core/session.h"
+#include "database/openDatabase.h"
+#include "database/refresh.h"
+#include "editing/editCard.h"
+#include "editing/newCommand.h"
+#include "guidance/tutorial.h"
+#include "paint/picEdit.h"
+#include "platform/desktop.h"
+#include "tools/FrmSpeed.h"
+#include "tools/warnForm.h"
+#include "window/Form1.h"
+#include "window/dispatch.h"
+
+namespace {
+
+/// Calls the routine with the main window, if there is one: a flight goes on for a moment after it was
+/// unloaded.
+template <class Routine>
+auto inWindow(Routine routine)
+{
+    return [routine](auto&&... arguments) {
+        if (isLoaded<Form1>())
+            routine(form<Form1>(), std::forward<decltype(arguments)>(arguments)...);
+    };
+}
+
+void connectWindow()
+{
+    mainView.showTitle = inWindow([](Form1& window) { window.setWindowTitle(session.window.title); });
+    mainView.showControls = inWindow([](Form1& window) { window.showControls(); });
+    mainView.showHint = inWindow([](Form1& window, const QString& text) { showHint(window, text); });
+    mainView.hideHints = endHint;
+    mainView.showTable = inWindow([](Form1& window) { window.tablePanel->enter(); });
+    mainView.chartPicture = [] {
+        return isLoaded<Form1>() ? form<Form1>().MSChart->picture(2 * desktop.screen.pixelRatio()) : QImage();
+    };
+    mainView.redrawTable = inWindow([](Form1& window) { window.tablePanel->showGrid(); });
+    mainView.showSpeedWindow = [] { showSpeedWindow(isLoaded<Form1>() ? &form<Form1>() : nullptr); };
+    mainView.unloadSpeedWindow = unload<FrmSpeed>;
+}
+
+void connectBoard()
+{
+    mainView.redrawBoard = inWindow([](Form1& window) { window.board->repaintBoard(); });
+    mainView.redrawCard = inWindow([](Form1& window, int card) { window.board->repaintCard(card); });
+    mainView.measureLabel = inWindow([](Form1& window, const QString& text, double& width, double& height) {
+        window.board->measureLabel(text, width, height);
+    });
+}
+
+void connectCommands()
+{
+    mainView.setRefresh = setRefresh;
+    mainView.newDatabase = makeNewDatabase;
+    mainView.openDatabase = openDatabase;
+    mainView.cardDropped = checkDropOnBin;
+    mainView.openCard = openCardEditor;
+    mainView.openPictureEditor = openPictureEditor;
+    mainView.watchTutorial = watchTutorial;
+}
+
+} // namespace
+
+void connectHooks()
+{
+    connectWindow();
+    connectBoard();
+    connectCommands();
+}

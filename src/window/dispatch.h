@@ -1,0 +1,34 @@
+// The commands of the menus, in one table.
+#pragma once
+
+#include <QString>
+
+/// When a command is refused, and the message shown.
+struct Refusal {
+    bool (*applies)();
+    QString title;
+    QString text;
+};
+
+inline constexpr int asItWas = -1;
+
+/// A command of the menus.
+struct MenuLine {
+    QString word;
+    QString icon;                     // name of its icon
+    int graphOnScreen;                // what session.graph.graphOnScreen becomes, or asItWas
+    void (*command)();                // null for a command that doesn't exist yet
+    const Refusal* refusal = nullptr; // checked before the command
+};
+
+/// The entry for the word, null for an unknown one.
+const MenuLine* menuLine(const QString& word);
+
+/// The name of the word's icon, empty when it has none.
+QString pictureOf(const QString& word);
+
+/// Handles a click on a line of the open menu.
+void dispatchLine(int line);
+
+/// Runs the command of that word; an unknown word does nothing.
+void runCommand(const QString& word);

@@ -1,0 +1,77 @@
+#include "window/startUp.h"
+
+#include "controls/forms.h"
+#include "controls/returnInLists.h"
+#include "platform/desktop.h"
+#include "platform/picture.h"
+#include "platform/realDesktop.h"
+#include "platform/wavePlayer.h"
+#include "store/options.h"
+#include "window/Form1.h"
+#include "window/FrmStlogo.h"
+#include "window/assembly.h"
+#include "window/displayScale.h"
+#include "window/frmNewDoc.h"
+#include "window/shutDown.h"
+#include "window/startValues.h"
+
+#include <QApplication>
+#include <QFile>
+#include <QIcon>
+#include <QScreen>
+#include <QTimer>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+void dressApplication()
+{
+    QApplication::setApplicationName(u"tallymoor"_s);
+    QApplication::setWindowIcon(QIcon(picturePath(u"tallymoor"_s)));
+    QApplication::setStyle(u"Fusion"_s);
+    QFile sheet(u":/tallymoor.qss"_s);
+    if (sheet.open(QIODevice::ReadOnly))
+        qApp->setStyleSheet(QString::fromUtf8(sheet.readAll()));
+    keepReturnInLists();
+}
+
+} // namespace
+
+double scaleOfProgram()
+{
+    installDesktop();
+    QList<QSize> sizes; // none where the desktop scales by itself
+    if (!qEnvironmentVariableIsSet("QT_SCALE_FACTOR") && qApp->devicePixelRatio() == 1) {
+        for (const QScreen* screen : QGuiApplication::screens())
+            sizes.append(screen->size());
+    }
+    return displayScale(sizes, read(option::displayScale));
+}
+
+int runTallymoor()
+{
+    dressApplication();
+    installDesktop();
+    askForPrintersEarly();
+    QApplication::setQuitOnLastWindowClosed(false); // shutDown() ends the program, in order
+    QTimer::singleShot(0, [] { endingOnError(startUp); });
+    const int result = desktop.runProgram();
+    leaveSound();
+    return result;
+}
+
+void startUp()
+{
+    connectHooks();
+    showModal(form<FrmStlogo>());
+    Form1& window = form<Form1>();
+    setStartValues();
+    window.layoutWindow();
+    window.showControls();
+    QRect restored({}, desktop.screen.size() * 0.8); // when it is no longer maximised
+    restored.moveCenter(QRect({}, desktop.screen.size()).center());
+    window.setGeometry(restored);
+    window.showMaximized();
+    showModal(form<frmNewDoc>());
+}

@@ -1,0 +1,106 @@
+#include "controls/pucTextTip.h"
+
+#include "platform/errors.h"
+#include "support/freshStart.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+class TipBalloon : public Fresh {
+protected:
+    TipBalloon()
+    {
+        balloon.resize(200, 60);
+        balloon.show();
+    }
+    pucTextTip balloon{u"Tip1"_s};
+};
+
+QImage picture(int width)
+{
+    QImage image(width, 20, QImage::Format_RGB32);
+    image.fill(Qt::red);
+    return image;
+}
+
+const QString manyWords = u"a tip that runs on and on "_s.repeated(12);
+
+} // namespace
+
+TEST_F(TipBalloon, BothMarksBreakTheLineAndNothingElseIsMarkUp)
+{
+    balloon.setText(u"one<CR>two<B>three <b>&amp;</b>"_s);
+    EXPECT_EQ(balloon.text(), u"one<B>two<B>three <b>&amp;</b>"_s);
+    EXPECT_EQ(balloon.lblTip->text(), u"one\ntwo\nthree <b>&amp;</b>"_s);
+    EXPECT_EQ(balloon.txtTip->toPlainText(), balloon.lblTip->text());
+    EXPECT_EQ(balloon.lblTip->textFormat(), Qt::PlainText);
+}
+
+TEST_F(TipBalloon, ATextTooTallScrollsUntilThereIsRoomForIt)
+{
+    balloon.setText(manyWords);
+    EXPECT_TRUE(balloon.txtTip->isVisible());
+    EXPECT_FALSE(balloon.lblTip->isVisible());
+    EXPECT_EQ(balloon.txtTip->geometry(), QRect(8, 6, 184, 48));
+
+    balloon.resize(200, 900);
+    EXPECT_TRUE(balloon.lblTip->isVisible());
+    EXPECT_FALSE(balloon.txtTip->isVisible());
+
+    balloon.setText(QString());
+    EXPECT_TRUE(balloon.lblTip->text().isEmpty());
+}
+
+TEST_F(TipBalloon, APictureMovesTheTextAndWrapsItAnew)
+{
+    balloon.resize(200, 900);
+    balloon.setText(manyWords);
+    const int before = balloon.lblTip->height();
+    balloon.setPicture(picture(100));
+    EXPECT_EQ(balloon.imgPicture->pos(), QPoint(8, 6));
+    EXPECT_EQ(balloon.lblTip->x(), 116);
+    EXPECT_EQ(balloon.lblTip->width(), 76);
+    EXPECT_GT(balloon.lblTip->height(), before);
+
+    balloon.setPicture({});
+    EXPECT_EQ(balloon.lblTip->x(), 8);
+}
+
+TEST_F(TipBalloon, AFontMeasuresTheTextAnewAndNoFontIsRefused)
+{
+    balloon.resize(200, 900);
+    balloon.setText(manyWords);
+    const int before = balloon.lblTip->height();
+    QFont large = balloon.tipFont();
+    large.setPointSizeF(24);
+    balloon.setTipFont(large);
+    EXPECT_EQ(balloon.tipFont().pointSizeF(), 24);
+    EXPECT_GT(balloon.lblTip->height(), before);
+
+    try {
+        balloon.setTipFont({});
+        FAIL();
+    } catch (const RuntimeError& error) {
+        EXPECT_EQ(error.number(), invalidProperty);
+        EXPECT_EQ(error.description(), u"Cannot set Font to Nothing"_s);
+    }
+    EXPECT_EQ(balloon.tipFont().pointSizeF(), 24);
+}
+
+TEST_F(TipBalloon, IsLaidOutAsItWasKept)
+{
+    pucTextTip kept(u"Tip2"_s, nullptr, {QFont(u"Arial"_s, 20), picture(30), QString()});
+    kept.resize(200, 60);
+    EXPECT_TRUE(kept.text().isEmpty());
+    EXPECT_EQ(kept.tipFont().pointSizeF(), 20);
+    EXPECT_EQ(kept.lblTip->x(), 46);
+}
+
+TEST_F(TipBalloon, TheWindowBehindShowsThroughItsCorners)
+{
+    EXPECT_FALSE(balloon.mask().contains(QPoint(0, 0)));
+    EXPECT_FALSE(balloon.mask().contains(QPoint(199, 59)));
+    EXPECT_TRUE(balloon.mask().contains(QPoint(0, 30)));
+    EXPECT_TRUE(balloon.mask().contains(QPoint(3, 3)));
+}

@@ -1,0 +1,152 @@
+#include "database/refresh.h"
+
+#include "core/mainView.h"
+#include "database/loading.h"
+#include "support/database.h"
+
+#include <QTest>
+#include <QTimer>
+#include <QWindow>
+
+using namespace Qt::StringLiterals;
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+namespace {
+
+class Refresh : public Fresh {
+protected:
+    Refresh()
+    {
+        session.dbPath = writeDatabase(u"class"_s, 3);
+        QObject::connect(&refreshTimer(), &QTimer::timeout, &counter, [this] { ++timeouts; });
+    }
+
+    /// Turns the refresh on with a short interval.
+    void turnOn()
+    {
+        setRefresh(u"On"_s);
+        refreshTimer().setInterval(5);
+    }
+
+    bool ticks(int count)
+    {
+        const int until = timeouts + count;
+        return QTest::qWaitFor([&] { return timeouts >= until; });
+    }
+
+    QString file(int card, const char* ending) const
+    {
+        return session.dbPath + u'/' + cardName(card) + QLatin1String(ending);
+    }
+
+    int timeouts = 0;
+    QObject counter;
+};
+
+} // namespace
+
+TEST_F(Refresh, OnReadsTheFolderAtOnceAndEveryTwoSeconds)
+{
+    setRefresh(u"oN"_s);
+    EXPECT_EQ(session.numCards, 3);
+    EXPECT_TRUE(session.window.refreshCheck.pressed);
+    EXPECT_TRUE(refreshTimer().isActive());
+    EXPECT_EQ(refreshTimer().interval(), 2000);
+    setRefresh(u"whatever"_s);
+    EXPECT_FALSE(session.window.refreshCheck.pressed);
+    EXPECT_FALSE(refreshTimer().isActive());
+}
+
+TEST_F(Refresh, ATickShowsWhatOtherWorkstationsDidAndMovesNoCardInView)
+{
+    turnOn();
+    session.box[1].left = 300.5;
+    session.box[2].left = 400.5;
+    const QImage face = session.box[2].picture;
+    writeCard(session.dbPath, cardName(2), u"changed"_s, u"01110222"_s, qRgb(0, 90, 0));
+    writeCard(session.dbPath, cardName(4), u"new"_s, u"05550444"_s, qRgb(0, 0, 90));
+    ASSERT_TRUE(ticks(2));
+    EXPECT_EQ(session.numCards, 4);
+    EXPECT_EQ(session.box[2].tooltip, u"changed"_s);
+    EXPECT_NE(session.box[2].picture, face);
+    EXPECT_EQ(session.box[1].left, 300.5);
+    EXPECT_EQ(session.box[2].left, 400.5);
+    EXPECT_EQ(session.box[4].left, 555);
+    EXPECT_EQ(session.box[4].top, 444);
+
+    for (const char* ending : {".tcd", ".bmp"})
+        QFile::remove(file(1, ending));
+    ASSERT_TRUE(ticks(2));
+    EXPECT_EQ(session.numCards, 3);
+    EXPECT_EQ(session.cardId[1], cardName(2));
+    EXPECT_FALSE(session.box[4].visible);
+    EXPECT_THAT(recorded.messages, IsEmpty());
+}
+
+TEST_F(Refresh, ACardFileThatVanishesInTheMiddleIsToldOnceForEachReading)
+{
+    turnOn();
+    recorded.messages.clear();
+    QFile::remove(file(2, ".bmp"));
+    ASSERT_TRUE(ticks(3));
+    EXPECT_EQ(recorded.messages.size(), timeouts);
+    EXPECT_EQ(QSet(recorded.messages.begin(), recorded.messages.end()).values(),
+              QStringList(u"Error|File not found"_s));
+    EXPECT_TRUE(session.window.refreshCheck.pressed);
+}
+
+TEST_F(Refresh, AFolderThatIsGoneIsToldOnceAndLosesNoCard)
+{
+    turnOn();
+    const auto shown = session.cardValue;
+    const QString away = session.dbPath + u"-away"_s;
+    ASSERT_TRUE(QDir().rename(session.dbPath, away));
+    ASSERT_TRUE(QTest::qWaitFor([] { return !refreshTimer().isActive(); }));
+    EXPECT_FALSE(session.window.refreshCheck.pressed);
+    EXPECT_THAT(recorded.messages, ElementsAre(u"Error|Path not found"_s));
+    EXPECT_EQ(session.numCards, 3);
+    EXPECT_EQ(session.cardValue, shown);
+    EXPECT_TRUE(session.box[3].visible);
+
+    setRefresh(u"On"_s);
+    EXPECT_FALSE(session.window.refreshCheck.pressed);
+    EXPECT_EQ(recorded.messages.size(), 2);
+    ASSERT_TRUE(QDir().rename(away, session.dbPath));
+    setRefresh(u"On"_s);
+    EXPECT_TRUE(session.window.refreshCheck.pressed);
+    EXPECT_EQ(session.numCards, 3);
+}
+
+TEST_F(Refresh, NoTickRunsUnderAModalWindow)
+{
+    turnOn();
+    writeCard(session.dbPath, cardName(4), u"new"_s, u"05550444"_s, qRgb(0, 0, 90));
+    QWindow dialog;
+    dialog.setModality(Qt::ApplicationModal);
+    dialog.show();
+    ASSERT_TRUE(ticks(3));
+    EXPECT_EQ(session.numCards, 3);
+    dialog.hide();
+    ASSERT_TRUE(ticks(2));
+    EXPECT_EQ(session.numCards, 4);
+}
+
+TEST_F(Refresh, NoTickRunsInsideAnother)
+{
+    turnOn();
+    int open = 0;
+    int mostOpen = 0;
+    int shown = 0;
+    desktop.boxes.showMessage = [&](MessageIcon, const QString&, const QString&) {
+        mostOpen = std::max(mostOpen, ++open);
+        ++shown;
+        QTest::qWait(30); // the time of six ticks
+        --open;
+    };
+    QFile::remove(file(2, ".bmp"));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return shown >= 2; }));
+    EXPECT_EQ(mostOpen, 1);
+    setRefresh(u"Off"_s);
+}

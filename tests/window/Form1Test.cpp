@@ -1,0 +1,208 @@
+#include "window/Form1.h"
+#include "window/assembly.h"
+
+#include "board/boardWidget.h"
+#include "board/mode.h"
+#include "board/tablePanel.h"
+#include "board/tableView.h"
+#include "controls/chartView.h"
+#include "controls/forms.h"
+#include "core/mainView.h"
+#include "core/menu.h"
+#include "core/session.h"
+#include "core/title.h"
+#include "store/settings.h"
+#include "support/cards.h"
+#include "support/freshStart.h"
+
+#include <QCoreApplication>
+#include <QFile>
+#include <QHeaderView>
+#include <QTableWidget>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+class MainWindow : public Fresh {
+protected:
+    MainWindow()
+    {
+        window.resize(1000, 700);
+        window.show();
+        mainView.setRefresh = [this](const QString& word) { refresh.append(word); };
+        mainView.openTeacherOptions = [this] { ++optionsOpened; };
+    }
+
+    Form1& window = (connectHooks(), form<Form1>());
+    QStringList refresh;
+    int optionsOpened = 0;
+};
+
+TEST_F(MainWindow, WithoutADatabaseOnlyTheFileMenuWorks)
+{
+    EXPECT_EQ(window.windowTitle(), titleWithoutDatabase());
+    for (const QWidget* control : std::initializer_list<QWidget*>{window.btnCards, window.btnTable,
+                                                                  window.PicRef, window.refreshCheck})
+        EXPECT_TRUE(control->isVisible() && !control->isEnabled()) << control->objectName().toStdString();
+    EXPECT_TRUE(session.menu.MenuTop[0].enabled);
+    EXPECT_FALSE(session.menu.MenuTop[1].enabled || session.menu.MenuTop[2].enabled ||
+                 session.menu.MenuTop[3].enabled);
+    EXPECT_FALSE(window.cmdQuestion->isVisible() || window.cmdCopyGraph->isVisible() ||
+                 window.tablePanel->isVisible());
+}
+
+TEST_F(MainWindow, OnlyTheTeachersChordOpensTheOptionsAndItStopsTheRefresh)
+{
+    const Qt::KeyboardModifiers chord = Qt::ControlModifier | Qt::ShiftModifier;
+    const std::vector<std::tuple<const char*, Qt::Key, Qt::KeyboardModifiers, bool>> cases = {
+        {"K", Qt::Key_K, chord, true},
+        {"K", Qt::Key_Q, chord, false},
+        {"Q", Qt::Key_Q, chord, true},
+        {"q", Qt::Key_Q, chord, false},
+        {"K", Qt::Key_K, Qt::ControlModifier, false},
+        {"K", Qt::Key_K, Qt::ShiftModifier, false},
+        {"K", Qt::Key_K, chord | Qt::AltModifier, false},
+        {"", Qt::Key_K, chord, false},
+    };
+    session.window.refreshCheck.enabled = true;
+    window.showControls();
+    for (QWidget* focused : std::initializer_list<QWidget*>{&window, window.refreshCheck}) {
+        for (const auto& [letter, key, modifiers, opens] : cases) {
+            optionsOpened = 0;
+            refresh.clear();
+            session.options.keysValue = QLatin1String(letter);
+            QTest::keyClick(focused, key, modifiers);
+            EXPECT_EQ(optionsOpened, opens ? 1 : 0) << letter << ' ' << key;
+            EXPECT_EQ(refresh, opens ? QStringList(u"Off"_s) : QStringList());
+        }
+    }
+}
+
+TEST_F(MainWindow, TheRefreshBoxAsksAndShowsWhatCameOfIt)
+{
+    session.window.refreshCheck.enabled = true;
+    window.showControls();
+    QTest::mouseClick(window.refreshCheck, Qt::LeftButton, {}, {20, 15});
+    EXPECT_FALSE(window.refreshCheck->isChecked()) << "nobody turned the refresh on";
+
+    mainView.setRefresh = [this](const QString& word) {
+        refresh.append(word);
+        session.window.refreshCheck.pressed = word == "On"_L1;
+    };
+    QTest::mouseClick(window.refreshCheck, Qt::LeftButton, {}, {20, 15});
+    EXPECT_TRUE(window.refreshCheck->isChecked());
+    QTest::keyClick(window.refreshCheck, Qt::Key_Space);
+    EXPECT_FALSE(window.refreshCheck->isChecked());
+    EXPECT_THAT(refresh, ElementsAre(u"On"_s, u"On"_s, u"Off"_s));
+}
+
+TEST_F(MainWindow, AnErrorInARoutineDoesNotPassTheWindowSystem)
+{
+    session.window.refreshCheck.enabled = true;
+    window.showControls();
+    mainView.setRefresh = [](const QString&) { throw RuntimeError(pathNotFound); };
+    QTest::mouseClick(window.refreshCheck, Qt::LeftButton, {}, {20, 15});
+    EXPECT_THAT(recorded.messages, ElementsAre(u"Error|Path not found"_s));
+    EXPECT_FALSE(window.refreshCheck->isChecked());
+}
+
+TEST_F(MainWindow, TheBoardIsTheWholeInside)
+{
+    window.resize(900, 600);
+    EXPECT_EQ(session.board.width, 900);
+    EXPECT_EQ(session.board.height, 600);
+    EXPECT_EQ(window.board->size(), window.size());
+    EXPECT_EQ(window.tablePanel->geometry(), QRect(0, 40, 900, 560));
+    EXPECT_THAT(recorded.messages, IsEmpty());
+}
+
+TEST_F(MainWindow, AClickOnTheBandClosesTheMenu)
+{
+    fillMenuTables();
+    QTest::mouseClick(window.menuBar->MenuTop[0], Qt::LeftButton);
+    EXPECT_TRUE(session.menu.MenuHolder.visible);
+    QTest::mouseClick(window.windowHandle(), Qt::LeftButton, {}, {950, 20});
+    EXPECT_FALSE(session.menu.MenuHolder.visible);
+}
+
+TEST_F(MainWindow, TheTableHasRoomForItsHeaderAndKeepsItsPlaceWhenResized)
+{
+    cards(QStringList(40, u"card"_s));
+    for (const int height : {700, 730}) {
+        window.resize(1000, height);
+        mainView.showTable();
+        auto& grid = *window.tablePanel->findChild<QTableWidget*>();
+        const int header = grid.horizontalHeader()->height();
+        EXPECT_GT(header, 0);
+        EXPECT_EQ(grid.rowCount(), (session.table.Grid.height - 12 - header) / 60) << height;
+    }
+    scrollTableTo(15);
+    window.resize(900, 600);
+    EXPECT_EQ(session.table.gridScroll.value, 15);
+    EXPECT_EQ(session.table.Grid.text[1][0], u"16"_s);
+}
+
+TEST_F(MainWindow, ASizeWithoutRoomIsRefusedInWords)
+{
+    window.setMinimumSize(1, 1);
+    window.resize(300, 30);
+    EXPECT_THAT(recorded.messages, ElementsAre(u"Tallymoor|You cannot resize Tallymoor to this size!"_s));
+}
+
+TEST_F(MainWindow, TheTimersReadTheirOptionsOnce)
+{
+    EXPECT_FALSE(window.TmrShow->isActive());
+    unload<Form1>();
+    writeSetting(settingsFile(), u"DeleteCard"_s, u"Random"_s, u"0"_s);
+    writeSetting(settingsFile(), u"Startup"_s, u"State"_s, u"True"_s);
+    EXPECT_TRUE(form<Form1>().TmrShow->isActive());
+    EXPECT_EQ(form<Form1>().TmrShow->interval(), 3000);
+    EXPECT_TRUE(QTest::qWaitFor([] { return !form<Form1>().tmrDelCard->isActive(); }));
+    EXPECT_EQ(session.options.txtDelRandomCard, u"0"_s);
+}
+
+TEST_F(MainWindow, ClosingItTakesTheAnswersAwayAndEveryForm)
+{
+    session.dbPath = testFolder() + u"zoo"_s;
+    QDir().mkpath(session.dbPath);
+    QFile answers(session.dbPath + u"/Answers.txt"_s);
+    ASSERT_TRUE(answers.open(QIODevice::WriteOnly));
+    answers.close();
+    window.close();
+    EXPECT_FALSE(answers.exists());
+    EXPECT_FALSE(isLoaded<Form1>());
+    EXPECT_TRUE(session.run.stopped);
+    mainView.showTitle(); // a routine that still runs after the window has gone
+    EXPECT_FALSE(isLoaded<Form1>());
+}
+
+TEST_F(MainWindow, TheChartCoversTheBoardAndGoesWithTheMode)
+{
+    cards({u"cat"_s});
+    session.graph.chart.setCounts(1, 1);
+    session.graph.chart.setRowLabel(1, u"cat"_s);
+    session.graph.chart.setData(1, 1, u"5"_s);
+    session.window.MSChart.visible = session.window.cmdCopyGraph.visible = true;
+    mainView.showControls();
+    mainView.redrawBoard();
+    EXPECT_TRUE(window.MSChart->isVisible() && window.cmdCopyGraph->isVisible());
+    EXPECT_EQ(window.focusWidget(), window.MSChart);
+    EXPECT_EQ(window.childAt(500, 400), window.MSChart);
+    EXPECT_EQ(QAccessible::queryAccessibleInterface(window.board)->childCount(), 0)
+        << "nothing beneath is read out";
+    EXPECT_EQ(mainView.chartPicture().size(), window.MSChart->size() * 2);
+
+    openMenu(2);
+    QTest::mouseClick(window.MSChart, Qt::LeftButton);
+    EXPECT_FALSE(session.menu.MenuHolder.visible);
+    window.resize(800, 500);
+    EXPECT_EQ(window.MSChart->geometry(), QRect(0, 40, 800, 460));
+
+    setMode(u"card"_s);
+    EXPECT_FALSE(window.MSChart->isVisible() || window.cmdCopyGraph->isVisible());
+    EXPECT_EQ(window.focusWidget(), window.board);
+    EXPECT_EQ(QAccessible::queryAccessibleInterface(window.board)->childCount(), 1);
+}
