@@ -37,8 +37,8 @@ QPainterPath box(const QRectF& frame)
     return path;
 }
 
-/// A body that is symmetrical and smooth, widest at `waist` (0 the top, 1 the bottom); `shoulder` and `hip`
-/// tell how full it is above and below.
+/// A symmetrical, smooth body, widest at `waist` (0 the top, 1 the bottom); `shoulder` and `hip` are its
+/// fullness above and below.
 QPainterPath smoothBody(const QRectF& frame, double waist, double shoulder, double hip)
 {
     const double half = frame.width() / 2, x = frame.center().x();
@@ -142,7 +142,7 @@ void drawWings(QPainter& painter, const Figure& figure)
     }
 }
 
-/// Where the horns stand, in widths of the head from its middle.
+/// The horns' places, in widths of the head from its middle.
 const QList<double> hornPlaces[] = {{}, {0}, {-0.31, 0.31}, {-0.44, 0, 0.44}, {-0.44, -0.15, 0.15, 0.44}};
 
 void drawHorns(QPainter& painter, const Figure& figure, int count)
@@ -187,7 +187,7 @@ void drawArms(QPainter& painter, const Figure& figure, int count)
     for (const int side : {-1, 1}) {
         const int here = side < 0 ? (count + 1) / 2 : count / 2;
         for (int i = 0; i < here; ++i) {
-            const double place = i - (here - 1) / 2.0; // 0 in the middle, the upper ones below it
+            const double place = i - (here - 1) / 2.0; // 0 in the middle, negative above it
             const double y = figure.frame.top() + figure.frame.height() * (0.62 + place * 0.2);
             const double lift = here == 1 ? 0.35 : 0.07 - place * 0.63;
             const QPointF skin = surface(figure.body, {middle + side * 80, y}, {side * -0.5, 0});

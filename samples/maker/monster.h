@@ -1,5 +1,5 @@
-// Draws a little monster from the values on its card, so that everything the card says can be seen and
-// counted.
+// Draws a little monster from the values on its card, so that every value can be seen or counted in
+// the picture.
 
 #pragma once
 
@@ -19,7 +19,7 @@ struct Monster {
     bool flies = false;
 };
 
-/// What the card tells of its monster.
+/// The monster that the card's values describe.
 Monster monsterOf(const SampleCard& card);
 
 /// The monster in its scene, standing on the ground, of the size of a card's picture (159 x 120).

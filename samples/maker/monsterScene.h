@@ -1,6 +1,6 @@
 // The scene behind a little monster: a plain in a pale tint of its coat, with distant shapes that match its
-// body. The card's colour then shows the coat from across the room, and the scene adds nothing that the card
-// doesn't say.
+// body. The card's colour then shows the coat from across the room, and the scene contains no information
+// that is not on the card.
 
 #pragma once
 

@@ -68,7 +68,7 @@ int cardBeside(int from, QPointF direction)
     return nearest;
 }
 
-/// The selected card stays on the board, so that nobody loses it.
+/// Keeps the selected card inside the board, where the mouse can reach it.
 void moveBy(int card, QPointF step)
 {
     CardImage& image = session.box[card];
@@ -119,7 +119,7 @@ bool pressBoardKey(int key, bool shift)
         return false;
     const int card = session.selectedCard;
     if (!isMarked(card))
-        selectPresentCard(); // a key never acts on a card that nobody sees marked
+        selectPresentCard(); // a key acts only on the card that is marked
     else if (!direction)
         act(key, card);
     else if (shift)

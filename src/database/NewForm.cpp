@@ -36,11 +36,6 @@ enum Page { welcomePage, namePage };
 
 const QString tutorial = u"Newdb"_s;
 
-QPushButton* stepButton(const char* name, const QString& caption)
-{
-    return named(new QPushButton(caption), name);
-}
-
 QAction* entry(const char* name, const QString& caption, const std::function<void()>& routine)
 {
     auto* action = named(new QAction(caption), name);
@@ -70,9 +65,9 @@ NewForm::NewForm()
                          "explanation"),
                    "Label3"))
     , Tip2(new pucTextTip(u"Tip2"_s))
-    , N1(stepButton("N1", u"&Next >>"_s))
-    , N2(stepButton("N2", u"&Next >>"_s))
-    , B2(stepButton("B2", u"<< &Back"_s))
+    , N1(named(new QPushButton(u"&Next >>"_s), "N1"))
+    , N2(named(new QPushButton(u"&Next >>"_s), "N2"))
+    , B2(named(new QPushButton(u"<< &Back"_s), "B2"))
     , BtnVid(named(new QToolButton, "BtnVid"))
     , mnuFHelp(entry("mnuFHelp", u"&Read the guide"_s, openGuide))
     , mnuFVid(entry("mnuFVid", u"&Watch a video"_s, watchVideo))

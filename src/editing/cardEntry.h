@@ -15,7 +15,7 @@ QString fittingValue(const QString& text);
 QString allowedValue(int f, const QString& text);
 
 /// OK in the editor: writes record and picture of the selected card as writeEditedCard() does, redraws its
-/// face, sets the answer "OK" and reloads all cards; a message tells when another workstation's version was
+/// face, sets the answer "OK" and reloads all cards; a message says when another workstation's version was
 /// kept. False when the card can't be written, after an error box: the editor then stays open, so that
 /// nothing that was typed is lost.
 bool keepCard();

@@ -1,6 +1,6 @@
 // The picture being painted and everything that the picture editor knows about it, without its window.
 //
-// A window tells what the mouse does and shows what it finds here: the canvas, and over it the rubber bands,
+// A window reports the mouse to it and shows its state: the canvas, and over it the rubber bands,
 // the guides, the text box and the lifted selection.
 #pragma once
 

@@ -1,5 +1,5 @@
-// A chart as plain data: a grid of numbers with labels, titles, scales and a legend. chartLayout.h tells
-// where its parts lie, chartPainter.h draws them.
+// A chart as plain data: a grid of numbers with labels, titles, scales and a legend. chartLayout.h
+// places its parts, chartPainter.h draws them.
 #pragma once
 
 #include <QString>

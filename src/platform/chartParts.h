@@ -1,4 +1,5 @@
-// What a chart consists of once it is laid out for a size: texts, lines, shapes, and the values to be told.
+// What a chart consists of once it is laid out for a size: texts, lines, shapes, and the values for hints and
+// screen readers.
 #pragma once
 
 #include <QFont>

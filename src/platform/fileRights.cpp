@@ -11,7 +11,7 @@
 
 namespace {
 
-// An access list as the system hands it out: its version, then the entries, all in little-endian numbers.
+// The system's binary form of an access list: a version, then the entries, all little-endian.
 constexpr const char* listName = "system.posix_acl_access";
 constexpr quint32 listVersion = 2;
 constexpr size_t headLength = 4;
@@ -71,7 +71,7 @@ bool belongsToGroupClass(const AccessEntry& entry)
     return entry.tag == user || entry.tag == owningGroup || entry.tag == group;
 }
 
-/// The rights as a list without a mask: what a mask took away is taken from the entries.
+/// The rights as a list without a mask: the mask is applied to the entries that it limits.
 AccessList withoutMask(const FileRights& rights)
 {
     AccessList list = rights.list;
@@ -90,7 +90,7 @@ AccessList withoutMask(const FileRights& rights)
     return list;
 }
 
-/// Whether somebody without an entry of their own has these rights, whatever groups they are in.
+/// True when a user without an entry of their own has these rights whatever groups they belong to.
 bool everybodyHas(const AccessList& list, quint16 rights)
 {
     return std::all_of(list.begin(), list.end(), [rights](const AccessEntry& e) {
@@ -127,7 +127,8 @@ bool namesAnybody(const AccessList& list)
                        [](const AccessEntry& e) { return e.tag == user || e.tag == group; });
 }
 
-/// The list for a file of another owner or group, which keeps the former ones' rights for them.
+/// The list for a file that has another owner or group: entries grant the wanted owner and group their
+/// rights.
 AccessList listUnder(const FileRights& rights, bool sameOwner, bool sameGroup)
 {
     if (sameOwner && sameGroup && hasMask(rights.list))
@@ -146,17 +147,17 @@ AccessList listUnder(const FileRights& rights, bool sameOwner, bool sameGroup)
     return list;
 }
 
-/// The nine bits, the middle ones being those of the mask or of the owning group.
+/// The nine permission bits; the middle three are the mask's, or the owning group's where there is no mask.
 mode_t modeOf(AccessList list, Tag middle)
 {
     return mode_t(rightsFor(list, owner) << 6 | rightsFor(list, middle) << 3 | rightsFor(list, others));
 }
 
-/// True when the disk took the list; one without a mask is no more than a mode.
+/// Sets the list; true when the disk accepted it. A list without a mask needs only the mode.
 bool giveList(int descriptor, const AccessList& list)
 {
     if (!hasMask(list)) {
-        ::fremovexattr(descriptor, listName); // the folder may have given one
+        ::fremovexattr(descriptor, listName); // a default list of the folder may have set one
         return true;
     }
     const QByteArray bytes = encoded(list);

@@ -1,4 +1,4 @@
-// Who may do what with a file or a folder: its owner, its group, its mode and its access list.
+// The owner, group, mode and access list of a file or folder, and how to give them to another one.
 #pragma once
 
 #include <QString>
@@ -10,24 +10,24 @@
 /// One line of an access list, as the system keeps it.
 struct AccessEntry {
     quint16 tag;
-    quint16 rights; // 4 read, 2 write, 1 run or enter
-    quint32 id;     // of a user or group that the entry names
+    quint16 rights; // 4 read, 2 write, 1 execute or enter
+    quint32 id;     // the user or group of an entry for one
 };
 
 struct FileRights {
     uid_t owner = 0;
     gid_t group = 0;
     mode_t mode = 0;
-    std::vector<AccessEntry> list; // empty where the mode is all there is
+    std::vector<AccessEntry> list; // empty when there is only a mode
 };
 
-/// Those of a file or folder, behind links; nothing when it isn't there or can't be looked at.
+/// Reads the rights of a file or folder; follows links. Empty when it doesn't exist or can't be examined.
 std::optional<FileRights> rightsOf(const QString& path);
 
-/// Those of the file, but its owner can read and write it in any case.
+/// The rights of the file, with reading and writing added for its owner.
 std::optional<FileRights> rightsForNewFile(const QString& like);
 
-/// Gives these rights to a file or folder that this user has just made. Where they can't have the same owner
-/// or group, entries of an access list let the former ones do what they could. False when the disk allows
-/// less than that, so that somebody might be locked out.
+/// Gives these rights to a file or folder that this user has just made. Where its owner or group can't be
+/// changed, entries of an access list grant the missing owner or group the same rights. False when the disk
+/// refuses that too: then a user might be locked out.
 bool giveRights(int descriptor, const FileRights& rights);

@@ -4,7 +4,7 @@
 #include <QByteArray>
 #include <QImage>
 
-/// Whether the bytes begin as a metafile does, with or without the header that tells its place.
+/// Whether the bytes begin as a metafile does, with or without the header that has its frame.
 bool beginsAsMetafile(const QByteArray& file);
 
 /// The drawing in its own proportions, just large enough to cover `size`, see-through where nothing is drawn.

@@ -16,7 +16,7 @@ T valueAt(const QByteArray& file, qsizetype offset)
     return qFromLittleEndian<T>(file.constData() + offset);
 }
 
-/// The header that tells the place: units to the inch must be told, and the frame must not be empty.
+/// Checks the header with the frame: its units to the inch must not be 0 nor its frame empty.
 bool placeMakesSense(const QByteArray& file)
 {
     const auto word = [&file](qsizetype offset) { return valueAt<quint16>(file, offset); };

@@ -26,7 +26,7 @@ bool isAllowed(const QByteArray& format)
                        [&format](const char* allowed) { return format == allowed; });
 }
 
-/// Lets a format that can do so leave out pixels that nobody needs.
+/// Has formats that can do so skip pixels that are not needed.
 void shrinkTo(QImageReader& reader, QSize needed)
 {
     if (needed.isEmpty() || !reader.supportsOption(QImageIOHandler::ScaledSize))

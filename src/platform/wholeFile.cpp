@@ -184,7 +184,7 @@ QString nameForNewFile()
            QString::number(++count);
 }
 
-/// A new file that has not replaced its target yet. The destructor removes it unless it has.
+/// A new file beside its target. The destructor removes it unless it has replaced the target.
 class NewFile {
 public:
     explicit NewFile(const QString& folder, mode_t mode = 0666)
@@ -231,7 +231,7 @@ private:
     bool placed = false;
 };
 
-/// For a writable file in a folder that isn't writable.
+/// Overwrites a file in place: for a writable file in a folder that isn't writable.
 void overwriteInPlace(const QString& path, const QByteArray& bytes)
 {
     const OpenFile file(path, O_RDWR);
@@ -250,9 +250,9 @@ void overwriteInPlace(const QString& path, const QByteArray& bytes)
     }
 }
 
-/// Writes the file beside its target and lets it take its place, with these rights if it can; one that
-/// replaces another has to have them. Tells the system's refusal of any of this, 0 when there was none;
-/// raises when the bytes can't be written.
+/// Writes a new file beside the target, gives it these rights and renames it over the target. Rights that
+/// can't be set are an error only where a file is replaced. Returns errno of the step that the system
+/// refused, 0 for none; raises when the bytes can't be written.
 int putNewFile(const QString& target, const QByteArray& bytes, const std::optional<FileRights>& rights,
                bool replaces)
 {
@@ -268,16 +268,15 @@ int putNewFile(const QString& target, const QByteArray& bytes, const std::option
 
 bool isRunning(pid_t process) { return ::kill(process, 0) == 0 || errno == EPERM; }
 
-/// The present time by the clock of the folder's system (on a share, the server's); 0 when nothing can be
-/// written there.
+/// The time by the clock of the folder's system (on a share, the server's); 0 where nothing can be written.
 time_t clockOf(const QString& folder)
 {
     const NewFile probe(folder);
     return probe.error() ? 0 : probe.status().st_mtime;
 }
 
-/// True on shares mounted by a desktop service: these remove a file before they rename another over it, so
-/// that for a moment there is none.
+/// True on shares mounted by a desktop service: these delete the target before they rename a file over it,
+/// so that for a moment it doesn't exist.
 bool mayBeBetweenTwoFiles(const QString& path)
 {
     struct statfs disk = {};
@@ -324,7 +323,7 @@ void replaceFile(const QString& path, const QByteArray& bytes, const QString& li
         raiseFor(errno);
 
     const int refusal = putNewFile(target, bytes, old ? old : rightsForNewFile(like), old.has_value());
-    // A folder that refuses new files or their rights, or that lets nobody rename over another's file.
+    // A folder that refuses new files or their rights, or where only the owner may replace a file.
     const bool folderRefuses = refusal == EACCES || refusal == EPERM;
     if (old && folderRefuses)
         overwriteInPlace(target, bytes);

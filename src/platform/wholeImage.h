@@ -1,10 +1,10 @@
-// What all picture files have in common when Qt reads them.
+// The one way that Qt's readers decode a picture file.
 #pragma once
 
 #include <QImage>
 
 class QImageReader;
 
-/// The picture that the reader is about to read, in 32 bits, every pixel told by the file or white. Raises
-/// 481 when there is none.
+/// Decodes the reader's picture to 32 bits; pixels that the file doesn't define are white. Raises 481 when it
+/// can't be decoded.
 QImage readWholeImage(QImageReader& reader);

@@ -14,12 +14,12 @@
 
 namespace {
 
-/// A file about to be written.
+/// A file that is about to be written.
 struct Writing {
     QString path;
     QByteArray bytes;
     bool needed = true;
-    bool othersLost = false; // somebody else has written it since
+    bool othersLost = false; // another workstation has changed it since it was loaded
     bool keptFirst = false;
 };
 
@@ -31,7 +31,8 @@ void takeBoxes(int card)
 
 void labelTooltip(int card) { session.box[card].tooltip = session.cardValue[card][1]; }
 
-/// A write that broke down on another system leaves nothing, bytes of zero, or an open quote.
+/// True when the record looks like the result of an interrupted write on another system: empty, bytes of
+/// zero, or an open quote.
 bool isDamagedRecord(const QByteArray& bytes)
 {
     return bytes.trimmed().isEmpty() || bytes.contains('\0') || bytes.count('"') % 2 != 0;
@@ -62,7 +63,7 @@ bool nothingFilledIn()
     return true;
 }
 
-/// While the description isn't known as it is on the disk, records may have more items than there are fields.
+/// While the description couldn't be read whole, records may have more items than the session has fields.
 bool mayHaveFurtherItems()
 {
     const QString description = filePathIn(session.dbPath, descriptionName);
@@ -88,7 +89,7 @@ Writing recordWriting(int card)
     const FileState known = knownState(path);
     const FileState now = stateToReplace(path);
     if (now.error == 0 && known.error != 0 && known.error != fileNotFound)
-        throw RuntimeError(pathAccessError); // what the boxes show isn't what it holds
+        throw RuntimeError(pathAccessError); // the boxes don't show its values
     Writing record{path, recordBytes(card, now.bytes)};
     const bool damaged = now.error == 0 && isDamagedRecord(now.bytes);
     record.needed = !damaged || !nothingFilledIn();

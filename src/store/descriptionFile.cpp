@@ -156,7 +156,7 @@ void writeDbInfo()
         const FileState now = stateToReplace(path);
         const bool isThere = now.error == 0;
         if (isThere && known.error == 0 && itemsIn(known.bytes) == itemsIn(bytes))
-            return; // nobody has changed anything here
+            return; // nothing was changed here
         if (isThere && known.error != 0 && known.error != fileNotFound)
             throw RuntimeError(pathAccessError);
         if (isThere && (now != known || !session.descriptionWhole))

@@ -37,7 +37,7 @@ qint64 bytesOf(const QFileInfoList& files)
     return bytes;
 }
 
-/// Removes the oldest until these fit in. Passes over what can't be removed.
+/// Removes the oldest files until these fit. Files that can't be removed are left.
 void makeRoomFor(const QFileInfoList& coming)
 {
     QFileInfoList kept = keptFiles();
@@ -46,11 +46,11 @@ void makeRoomFor(const QFileInfoList& coming)
         const QFileInfo oldest = kept.takeFirst();
         bytes -= oldest.size();
         QFile::remove(oldest.filePath());
-        QDir().rmdir(oldest.path()); // when it was the last of its moment
+        QDir().rmdir(oldest.path()); // succeeds only for the last file of its moment
     }
 }
 
-/// Makes a folder; false when there is one of that name already, perhaps from another workstation just now.
+/// Makes a folder; false when the name is taken, perhaps by another workstation a moment ago.
 bool addFolder(const QString& path, const QString& like)
 {
     try {
@@ -63,7 +63,7 @@ bool addFolder(const QString& path, const QString& like)
     }
 }
 
-/// A new folder for this moment.
+/// Makes a new folder for this moment.
 QString makeMoment()
 {
     addFolder(keptFolder(), session.dbPath);

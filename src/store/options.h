@@ -81,7 +81,7 @@ void write(const Option& option, const QString& value);
 /// Writes them all in one replacement of the file: a reader never finds some old and some new.
 void writeSettings(const QList<Setting>& settings);
 
-/// A working folder's value that stands for the user's documents, whoever that is.
+/// The value of a working folder that means the current user's documents.
 inline constexpr QLatin1StringView documentsWord("MyDocs");
 
 /// The folder that a value of option::workingFolder means.

@@ -177,7 +177,7 @@ void Form1::showControls()
     showChart();
 }
 
-/// A chart that comes into view gets the focus, so that a screen reader tells it; the board gets it back.
+/// A chart that becomes visible gets the focus, so that a screen reader announces it; the board gets it back.
 void Form1::showChart()
 {
     const bool comes = session.window.MSChart.visible && !MSChart->isVisible();
