@@ -110,7 +110,7 @@ class Tour:
         """Makes that copy of the program the current one and raises its windows."""
         self._process = copy
         for number in self._window_numbers("Tallymoor"):
-            if self.desk.run("xdotool", "getwindowpid", number, check=False).strip() == str(copy.pid):
+            if self._owner(number) == copy.pid:
                 self.desk.run("xdotool", "windowactivate", "--sync", number)
 
     def end(self):
@@ -140,9 +140,13 @@ class Tour:
     # Its windows
 
     def window(self, title):
-        """Waits for the window whose title contains `title`, brings it to the front and returns its X id."""
+        """Waits for the window whose title contains `title`, brings it to the front and returns its X id. Windows of other
+        copies of the program don't count."""
+        others = {copy.pid for copy, _ in self._copies if copy is not self._process}
+
         def raised():
-            number = next(reversed(self._window_numbers(title)), None)
+            number = next((found for found in reversed(self._window_numbers(title)) if self._owner(found) not in others),
+                          None)
             try:
                 if number:
                     self.desk.run("xdotool", "windowactivate", "--sync", number)
@@ -175,6 +179,11 @@ class Tour:
     def _window_numbers(self, title):
         said = self.desk.run("xdotool", "search", "--onlyvisible", "--name", title, check=False)
         return re.findall(r"^\d+$", said, re.MULTILINE)
+
+    def _owner(self, number):
+        """The process of the window with that X id; None when the window doesn't say."""
+        said = self.desk.run("xdotool", "getwindowpid", number, check=False).strip()
+        return int(said) if said.isdigit() else None
 
     def all(self, role, name=None, within=None):
         """Every visible part of that role, and name if one is given, in the program or in another part."""
