@@ -6,6 +6,7 @@
 #include "analysis/refusals.h"
 #include "analysis/statsForm.h"
 #include "controls/forms.h"
+#include "core/mainView.h"
 #include "core/session.h"
 #include "platform/errors.h"
 
@@ -33,8 +34,10 @@ void makeGraph()
         refuseGraphOfSoMany();
     else if (session.numCards <= 0)
         refuseGraph();
-    else
-        withErrorBox(graphFromWizard);
+    else if (!withErrorBox(graphFromWizard)) {
+        session.window.cmdCopyGraph.visible = session.window.MSChart.visible;
+        mainView.showControls();
+    }
 }
 
 void showStatistics()

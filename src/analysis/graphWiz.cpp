@@ -4,6 +4,7 @@
 #include "controls/dialogParts.h"
 #include "controls/dropDown.h"
 #include "controls/selectOnFocus.h"
+#include "controls/singleTab.h"
 #include "controls/wizardPages.h"
 #include "core/mainView.h"
 #include "core/session.h"
@@ -72,6 +73,7 @@ QVBoxLayout* pageWithHeading(QWidget& page, const char* name, const QString& hea
     column->setContentsMargins({});
     column->setSpacing(16);
     auto* top = new QHBoxLayout;
+    top->setSpacing(16);
     top->addWidget(pictureLabel(u"menuMakeGraph"_s, {48, 48}));
     top->addWidget(named(words(heading, "heading"), name), 1);
     column->addLayout(top);
@@ -124,6 +126,7 @@ void graphWiz::fillFieldPage()
     inTab->addStretch(1);
     graphTab->addTab(tab, u"Graph"_s);
     graphTab->tabBar()->installEventFilter(this);
+    pressableSingleTab(*graphTab->tabBar());
     fieldCombo->setAccessibleName(u"Make a graph about"_s);
 
     QVBoxLayout* column = pageWithHeading(*Frame[0], "Label1", u"1. Make a graph about:"_s);

@@ -144,7 +144,9 @@ void statsForm::addToRoll(const QString& result)
     end.insertText(result + u"\r\n"_s);
     display->setTextCursor(end);
     display->ensureCursorVisible();
-    equalsBut->setAccessibleDescription(result); // read out at once: the button has been pressed just now
+    equalsBut->setAccessibleDescription(result); // read out at once where the focus is
+    if (!display->hasFocus())
+        equalsBut->setFocus();
 }
 
 void statsForm::copyRoll()

@@ -6,7 +6,7 @@
 #include "platform/errors.h"
 #include "platform/picture.h"
 
-#include <QAccessible>
+#include <QAccessibleWidget>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
@@ -85,6 +85,13 @@ QPoint wayOf(int key)
     }
 }
 
+/// Qt knows no role for a widget that it doesn't know.
+QAccessibleInterface* makeInterface(const QString&, QObject* object)
+{
+    auto* canvas = qobject_cast<CanvasWidget*>(object);
+    return canvas ? new QAccessibleWidget(canvas, QAccessible::Canvas) : nullptr;
+}
+
 bool isShifted(Qt::KeyboardModifiers modifiers)
 {
     return modifiers & (Qt::ShiftModifier | Qt::ControlModifier | Qt::AltModifier);
@@ -95,6 +102,8 @@ bool isShifted(Qt::KeyboardModifiers modifiers)
 CanvasWidget::CanvasWidget(Painting& shown)
     : painting(shown)
 {
+    static const bool installed = (QAccessible::installFactory(makeInterface), true);
+    Q_UNUSED(installed);
     setObjectName(u"Picture1"_s);
     setAccessibleName(u"Canvas"_s);
     resize(canvasOuterSize);

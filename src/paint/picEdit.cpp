@@ -80,6 +80,7 @@ picEdit::picEdit()
     addColours();
     addAnswers();
     addShadows();
+    orderTabs();
     connectControls();
 }
 
@@ -94,6 +95,7 @@ void picEdit::addTools()
                     "ToolPic", index);
         ToolPic[index]->setVisible(tool.place.has_value());
         ToolPic[index]->setToolTip(QLatin1String(tool.name));
+        ToolPic[index]->setAccessibleDescription(QLatin1String(tool.hint));
         ToolPic[index]->installEventFilter(this);
         if (index == pickerTool)
             ToolPic[index]->setAutoExclusive(false); // once framed, it stays so
@@ -134,6 +136,7 @@ void picEdit::addAnswers()
     named(hint, "hint")->setParent(this);
     hint->setGeometry(hintArea);
     hint->setAlignment(Qt::AlignCenter);
+    BtnImport->setAccessibleName(u"Import Image"_s);
     giveHint(*BtnImport, u"Click here to import external images into Tallymoor"_s);
     giveHint(*BtnClipart, u"Click here to import Clipart into Tallymoor"_s);
     auto* video = videoButton(u"Entering Data"_s);
@@ -148,6 +151,17 @@ void picEdit::addShadows()
         shadows[side] = named(new QFrame(this), names[side]);
         shadows[side]->setAttribute(Qt::WA_TransparentForMouseEvents);
     }
+}
+
+/// From the tools over the canvas to the colours and the answers. Of each group Tab finds the chosen one.
+void picEdit::orderTabs()
+{
+    std::vector<QWidget*> order(ToolPic.begin(), ToolPic.end());
+    order.insert(order.end(), {UndoBut, Picture1, Text1});
+    order.insert(order.end(), colourSwatch.begin(), colourSwatch.end());
+    order.insert(order.end(), {answers->ok, answers->cancel, BtnImport});
+    for (std::size_t next = 1; next < order.size(); ++next)
+        setTabOrder(order[next - 1], order[next]);
 }
 
 void picEdit::connectControls()
@@ -198,6 +212,8 @@ void picEdit::showPainting()
         colourSwatch[index]->setColour(painting.colourSwatch[index]);
     ToolPic[painting.currentTool]->setChecked(true);
     colourSwatch[painting.selectedColour]->setChecked(true);
+    for (PaintButton* swatch : colourSwatch)
+        letTabFindTheChosen({swatch});
     Picture1->setEnabled(painting.enabled);
     Picture1->showCursor();
     Picture1->update();

@@ -41,6 +41,7 @@ private:
     void addColours();
     void addAnswers();
     void addShadows();
+    void orderTabs();
     void connectControls();
     void frame(const QRect& place);
     void clickTool(int index);

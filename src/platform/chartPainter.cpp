@@ -131,6 +131,9 @@ QImage chartPicture(const Chart& chart, QSize size, double ratio, const ChartLoo
     QImage picture((QSizeF(size) * ratio).toSize(), QImage::Format_RGB32);
     if (picture.isNull())
         return picture;
+    constexpr double inch = 0.0254;                      // metres
+    picture.setDotsPerMeterX(qRound(96 * ratio / inch)); // pasted, it is as large as on the screen
+    picture.setDotsPerMeterY(picture.dotsPerMeterX());
     picture.setDevicePixelRatio(ratio);
     QPainter painter(&picture);
     paintChart(painter, layOutChart(chart, QSizeF(size), look.font), look);

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <cmath>
 #include <numbers>
+#include <set>
 
 using namespace Qt::StringLiterals;
 
@@ -62,23 +63,43 @@ QPainterPath pathOf(const Slice& slice, const QRectF& circle)
 int colourOf(const Slice& slice) { return (slice.column - 1) % chartColours; }
 int patternOf(const Slice& slice) { return (slice.column - 1) % chartPatterns; }
 
+std::vector<QString> namesOf(const std::vector<Slice>& slices)
+{
+    std::vector<QString> names;
+    for (const Slice& slice : slices)
+        names.push_back(slice.name);
+    return names;
+}
+
 // ---- the legend ----
 
-/// Fills columns from the right edge leftwards and returns the room beside them.
-QRectF layOutLegend(const std::vector<Slice>& slices, QRectF room, ChartLayout& layout, ChartWriter& writer)
+/// Names are cut at their end, unless different ones would then read the same: "Monster number 1, 2, 3...".
+Qt::TextElideMode cutOf(const std::vector<QString>& names, double longest, const ChartWriter& writer)
+{
+    std::set<QString> cut;
+    for (const QString& name : names)
+        cut.insert(writer.line(name, {}, 0, longest).text);
+    const std::set<QString> whole(names.begin(), names.end());
+    return cut.size() < whole.size() ? Qt::ElideMiddle : Qt::ElideRight;
+}
+
+/// Fills columns from the right edge leftwards and returns the room beside them. Several columns take that
+/// share of the room at most.
+QRectF layOutLegend(const std::vector<Slice>& slices, QRectF room, double mostOfRoom, ChartLayout& layout,
+                    ChartWriter& writer)
 {
     const double height = writer.lineHeight() * 1.05;
     const double swatch = writer.scaled(18);
     const double gap = writer.scaled(8);
-    std::vector<QString> names;
-    for (const Slice& slice : slices)
-        names.push_back(slice.name);
+    const std::vector<QString> names = namesOf(slices);
     const int perColumn = std::max(1, int(room.height() / height));
     const int columns = (int(slices.size()) + perColumn - 1) / perColumn;
     const int rows = (int(slices.size()) + columns - 1) / std::max(1, columns);
-    const double most = room.width() * (columns > 1 ? 0.5 : 0.34) / std::max(1, columns);
+    const double most = room.width() * (columns > 1 ? mostOfRoom : 0.34) / std::max(1, columns);
     const double width = std::min(most, writer.widest(names) + swatch + 3 * gap);
     const double left = room.right() - columns * width;
+    const double longest = width - swatch - 2 * gap;
+    const Qt::TextElideMode cut = cutOf(names, longest, writer);
     const double top = room.center().y() - rows * height / 2;
     for (std::size_t i = 0; i < slices.size(); ++i) {
         const int column = int(i) / rows;
@@ -87,7 +108,7 @@ QRectF layOutLegend(const std::vector<Slice>& slices, QRectF room, ChartLayout& 
         QPainterPath square;
         square.addRect(x, std::round(y - swatch / 2), swatch, swatch);
         layout.shapes.push_back({square, colourOf(slices[i]), patternOf(slices[i]), 0});
-        writer.add(writer.line(slices[i].name, {x + swatch + gap, y}, 0, width - swatch - 2 * gap));
+        writer.add(writer.line(names[i], {x + swatch + gap, y}, 0, longest, ChartTextRole::label, 0, cut));
     }
     room.setRight(left - 2 * gap);
     return room;
@@ -132,7 +153,9 @@ void addNumber(const Slice& slice, const QPainterPath& path, const QRectF& circl
     ChartText number = writer.line(chartNumber(slice.value), anchor, 0.5, circle.width());
     const double plate = writer.scaled(4);
     number.onPaper = true;
-    if (path.contains(number.area().boundingRect().adjusted(-plate, -plate, plate, plate)))
+    constexpr double leastShare = 0.03; // narrower slices have room here and there only
+    if (slice.share >= leastShare &&
+        path.contains(number.area().boundingRect().adjusted(-plate, -plate, plate, plate)))
         writer.add(number);
 }
 
@@ -148,16 +171,18 @@ QString wordsFor(const Slice& slice)
 void layOutPie(const Chart& chart, QRectF room, ChartLayout& layout, ChartWriter& writer)
 {
     const std::vector<Slice> slices = slicesOf(chart);
-    if (chart.legendVisible && !slices.empty())
-        room = layOutLegend(slices, room, layout, writer);
-    std::vector<QString> names;
-    for (const Slice& slice : slices)
-        names.push_back(slice.name);
+    const bool legend = chart.legendVisible && !slices.empty();
+    const bool crowded = slices.size() > 12;
+    const double widest = writer.widest(namesOf(slices));
+    // Where many names don't fit beside the slices, the legend has them alone, and room for more of each.
+    const bool onlyInLegend = legend && crowded && widest > room.width() * 0.15;
+    if (legend)
+        room = layOutLegend(slices, room, onlyInLegend ? 0.62 : 0.5, layout, writer);
     const double beside = writer.scaled(gapOfName);
-    // Many names together say less than a large circle: the legend has them whole.
-    const double longest = std::min(writer.widest(names), room.width() * (slices.size() > 12 ? 0.15 : 0.24));
-    const double diameter = std::max(0.0, std::min(room.width() - 2 * (longest + beside),
-                                                   room.height() - 2 * (writer.lineHeight() + beside)));
+    const double longest = onlyInLegend ? 0 : std::min(widest, room.width() * (crowded ? 0.15 : 0.24));
+    const double above = onlyInLegend ? 0 : writer.lineHeight();
+    const double diameter =
+        std::max(0.0, std::min(room.width() - 2 * (longest + beside), room.height() - 2 * (above + beside)));
     const QRectF circle(room.center() - QPointF(diameter, diameter) / 2, QSizeF(diameter, diameter));
     layout.plot = circle;
     for (const Slice& slice : slices) {
@@ -168,5 +193,6 @@ void layOutPie(const Chart& chart, QRectF room, ChartLayout& layout, ChartWriter
         layout.shapes.push_back({path, colourOf(slice), patternOf(slice), 0});
         addNumber(slice, path, circle, writer);
     }
-    addNames(slices, circle, room, longest, writer);
+    if (!onlyInLegend)
+        addNames(slices, circle, room, longest, writer);
 }

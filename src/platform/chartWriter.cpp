@@ -48,9 +48,9 @@ std::vector<QString> ChartWriter::wrapped(const QString& text, double longest) c
 }
 
 ChartText ChartWriter::line(const QString& text, QPointF anchor, double align, double longest,
-                            ChartTextRole role, double angle) const
+                            ChartTextRole role, double angle, Qt::TextElideMode cut) const
 {
-    const QString shown = metrics(role).elidedText(text.simplified(), Qt::ElideRight, std::max(longest, 0.0));
+    const QString shown = metrics(role).elidedText(text.simplified(), cut, std::max(longest, 0.0));
     return {shown, role, anchor, align, angle, width(shown, role), lineHeight(role), false};
 }
 

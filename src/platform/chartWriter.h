@@ -21,7 +21,8 @@ public:
     /// The text as it stands in the layout, cut with "…" where it is longer than `longest`. An empty one is
     /// left out of the layout by add().
     ChartText line(const QString& text, QPointF anchor, double align, double longest,
-                   ChartTextRole role = ChartTextRole::label, double angle = 0) const;
+                   ChartTextRole role = ChartTextRole::label, double angle = 0,
+                   Qt::TextElideMode cut = Qt::ElideRight) const;
     void add(const ChartText& text);
 
 private:

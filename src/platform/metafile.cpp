@@ -16,12 +16,15 @@ extern "C" {
 
 namespace {
 
-constexpr int mostRecords = 200'000;
 constexpr int largestSide = 2000; // pixels
 
+/// Called before each record.
 int stopsWhenEndless(void* device, float)
 {
-    return ++static_cast<MetafileDevice*>(device)->records > mostRecords;
+    constexpr double recordWork = 500;
+    double& work = static_cast<MetafileDevice*>(device)->work;
+    work += recordWork;
+    return work > mostMetafileWork;
 }
 
 /// The library with a metafile opened in it.
@@ -29,6 +32,7 @@ class Player {
 public:
     explicit Player(const QByteArray& metafile)
         : file(metafile)
+        , device{nullptr, metafile, {}, 0, 0}
     {
         static FILE* const nowhere = std::fopen("/dev/null", "w");
         wmfAPI_Options options{};
@@ -62,7 +66,7 @@ public:
 
     void play(QPainter& painter)
     {
-        device = {&painter, {}, 0};
+        device = {&painter, file, {}, 0, 0};
         check(wmf_play(library.get(), 0, &bounds));
     }
 

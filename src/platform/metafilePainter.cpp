@@ -1,13 +1,13 @@
 #include "platform/metafilePainter.h"
 
-#include "platform/bitmapFile.h"
 #include "platform/errors.h"
 #include "platform/fonts.h"
+#include "platform/metafileArc.h"
+#include "platform/metafileBitmap.h"
 
 #include <QFontMetricsF>
 #include <QPainter>
 #include <QPainterPath>
-#include <QtEndian>
 #include <QtMath>
 
 #include <cmath>
@@ -21,7 +21,7 @@ namespace {
 
 constexpr int fontPixels = 100; // texts are drawn at this size and scaled
 constexpr double largestText = 1e6;
-constexpr qsizetype largestBitmap = 64 << 20; // bytes
+constexpr qsizetype largestBitmap = 64 << 20; // bytes of one in the file, and of all in memory
 
 MetafileDevice& device(wmfAPI* library) { return *static_cast<MetafileDevice*>(library->user_data); }
 QPainter& painterOf(wmfAPI* library) { return *device(library).painter; }
@@ -46,16 +46,64 @@ Qt::FillRule fillRule(wmfDC* context)
     return WMF_DC_POLYFILL(context) == WINDING ? Qt::WindingFill : Qt::OddEvenFill;
 }
 
+// Work: what is too much for a picture ends the play. A few bytes of a file can ask for a lot of it.
+
+/// The part of the area that lies on the sheet, in its pixels.
+QRectF onSheet(wmfAPI* library, const QRectF& area)
+{
+    const QPainter& painter = painterOf(library);
+    const QRectF sheet(0, 0, painter.device()->width(), painter.device()->height());
+    return painter.transform().mapRect(area) & sheet;
+}
+
+constexpr double pixelWork = 2; // to fill a pixel
+
+/// Counts an area that is filled, and so many strokes as long as half its rim.
+void countArea(wmfAPI* library, const QRectF& area, double strokes, double workOfPixel = pixelWork)
+{
+    constexpr double strokeWork = 30; // of a pixel's length
+    const QRectF seen = onSheet(library, area);
+    device(library).work +=
+        seen.width() * seen.height() * workOfPixel + strokes * (seen.width() + seen.height()) * strokeWork;
+}
+
+/// Counts a line through these points, whose inside may be filled.
+void countPolygon(wmfAPI* library, const QPolygonF& points)
+{
+    constexpr double edgeWork = 300;
+    constexpr double lengthWork = 50; // of a pixel
+    const QTransform toSheet = painterOf(library).transform();
+    double length = 0;
+    for (qsizetype i = 1; i < points.size(); ++i) {
+        const QPointF edge = toSheet.map(points[i]) - toSheet.map(points[i - 1]);
+        length += edge.manhattanLength();
+    }
+    device(library).work += double(points.size()) * edgeWork + length * lengthWork;
+    countArea(library, points.boundingRect(), 0);
+}
+
 // Pens and brushes
 
-QPen penOf(wmfDC* context)
+/// Dashes too short to be seen are drawn as a line: there could be millions of them.
+Qt::PenStyle visibleStyle(wmfAPI* library, double width, Qt::PenStyle style)
+{
+    constexpr double leastWidth = 0.25; // pixels
+    const QTransform toSheet = painterOf(library).transform();
+    const bool cosmetic = width == 0;
+    const bool visible = cosmetic || width * std::sqrt(std::abs(toSheet.determinant())) >= leastWidth;
+    return visible || style == Qt::NoPen ? style : Qt::SolidLine;
+}
+
+QPen penOf(wmfAPI* library, wmfDC* context)
 {
     constexpr Qt::PenStyle styles[] = {Qt::SolidLine,      Qt::DashLine, Qt::DotLine,  Qt::DashDotLine,
                                        Qt::DashDotDotLine, Qt::NoPen,    Qt::SolidLine};
     auto* pen = WMF_DC_PEN(context);
-    const auto style = unsigned(WMF_PEN_STYLE(pen));
-    return {colourOf(*WMF_PEN_COLOR(pen)), std::abs(double(WMF_PEN_WIDTH(pen))),
-            style < std::size(styles) ? styles[style] : Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin};
+    const auto number = unsigned(WMF_PEN_STYLE(pen));
+    const Qt::PenStyle style = number < std::size(styles) ? styles[number] : Qt::SolidLine;
+    const double width = std::abs(double(WMF_PEN_WIDTH(pen)));
+    return {colourOf(*WMF_PEN_COLOR(pen)), width, visibleStyle(library, width, style), Qt::RoundCap,
+            Qt::RoundJoin};
 }
 
 QBrush brushOf(wmfDC* context)
@@ -73,7 +121,7 @@ QBrush brushOf(wmfDC* context)
 QPainter& outlining(wmfAPI* library, wmfDC* context)
 {
     QPainter& painter = painterOf(library);
-    painter.setPen(penOf(context));
+    painter.setPen(penOf(library, context));
     painter.setBrush(Qt::NoBrush);
     return painter;
 }
@@ -89,6 +137,7 @@ QPainter& filling(wmfAPI* library, wmfDC* context)
 
 void drawRectangle(wmfAPI* library, wmfDrawRectangle_t* shape)
 {
+    countArea(library, between(shape->TL, shape->BR), 2);
     filling(library, shape->dc)
         .drawRoundedRect(between(shape->TL, shape->BR), std::abs(double(shape->width)),
                          std::abs(double(shape->height)));
@@ -96,6 +145,7 @@ void drawRectangle(wmfAPI* library, wmfDrawRectangle_t* shape)
 
 void drawEllipse(wmfAPI* library, wmfDrawArc_t* shape)
 {
+    countArea(library, between(shape->TL, shape->BR), 2);
     filling(library, shape->dc).drawEllipse(between(shape->TL, shape->BR));
 }
 
@@ -105,16 +155,22 @@ struct ArcSpan {
     int length;
 };
 
-/// The library tells both ends from the middle of the ellipse, to be joined with the clock. In a mirrored
-/// window it tells them wrongly; nothing can be done about that here.
-ArcSpan spanOf(const wmfDrawArc_t& shape)
+/// Arcs run against the clock as seen on the sheet, also where the window is mirrored. The ends are taken
+/// from the file: the library pushes them to the ellipse's frame, and in a mirrored window all to one corner.
+ArcSpan spanOf(wmfAPI* library, const wmfDrawArc_t& shape)
 {
     const QRectF area = between(shape.TL, shape.BR);
-    const auto angle = [&area](const wmfD_Coord& way) {
-        return qRadiansToDegrees(std::atan2(-way.y * area.width(), way.x * area.height()));
+    countArea(library, area, 2);
+    const ArcEnds told{area.center() + pointOf(shape.end), area.center() + pointOf(shape.start)};
+    const ArcEnds ends = arcEndsOf(device(library).file, library->bbuf.tell(library->buffer_data),
+                                   pointOf(shape.TL), pointOf(shape.BR))
+                             .value_or(told);
+    const auto angle = [&area](QPointF end) {
+        const QPointF way = end - area.center();
+        return qRadiansToDegrees(std::atan2(-way.y() * area.width(), way.x() * area.height()));
     };
-    const double from = angle(shape.end);
-    double length = angle(shape.start) - from;
+    const double from = angle(ends.first);
+    double length = angle(ends.last) - from;
     if (length <= 0)
         length += 360;
     return {area, int(from * 16), int(length * 16)};
@@ -122,35 +178,40 @@ ArcSpan spanOf(const wmfDrawArc_t& shape)
 
 void drawArc(wmfAPI* library, wmfDrawArc_t* shape)
 {
-    const auto [area, start, length] = spanOf(*shape);
+    const auto [area, start, length] = spanOf(library, *shape);
     outlining(library, shape->dc).drawArc(area, start, length);
 }
 
 void drawChord(wmfAPI* library, wmfDrawArc_t* shape)
 {
-    const auto [area, start, length] = spanOf(*shape);
+    const auto [area, start, length] = spanOf(library, *shape);
     filling(library, shape->dc).drawChord(area, start, length);
 }
 
 void drawPie(wmfAPI* library, wmfDrawArc_t* shape)
 {
-    const auto [area, start, length] = spanOf(*shape);
+    const auto [area, start, length] = spanOf(library, *shape);
     filling(library, shape->dc).drawPie(area, start, length);
 }
 
 void drawLine(wmfAPI* library, wmfDrawLine_t* line)
 {
+    countPolygon(library, {pointOf(line->from), pointOf(line->to)});
     outlining(library, line->dc).drawLine(pointOf(line->from), pointOf(line->to));
 }
 
 void drawPolyline(wmfAPI* library, wmfPolyLine_t* line)
 {
-    outlining(library, line->dc).drawPolyline(polygonOf(line->pt, line->count));
+    const QPolygonF points = polygonOf(line->pt, line->count);
+    countPolygon(library, points);
+    outlining(library, line->dc).drawPolyline(points);
 }
 
 void drawPolygon(wmfAPI* library, wmfPolyLine_t* shape)
 {
-    filling(library, shape->dc).drawPolygon(polygonOf(shape->pt, shape->count), fillRule(shape->dc));
+    const QPolygonF corners = polygonOf(shape->pt, shape->count);
+    countPolygon(library, corners);
+    filling(library, shape->dc).drawPolygon(corners, fillRule(shape->dc));
 }
 
 void drawPolygons(wmfAPI* library, wmfPolyPoly_t* shape)
@@ -158,7 +219,9 @@ void drawPolygons(wmfAPI* library, wmfPolyPoly_t* shape)
     QPainterPath path;
     path.setFillRule(fillRule(shape->dc));
     for (int i = 0; i < shape->npoly; ++i) {
-        path.addPolygon(polygonOf(shape->pt[i], shape->count[i]));
+        const QPolygonF corners = polygonOf(shape->pt[i], shape->count[i]);
+        countPolygon(library, corners);
+        path.addPolygon(corners);
         path.closeSubpath();
     }
     filling(library, shape->dc).drawPath(path);
@@ -176,6 +239,7 @@ void fillArea(wmfAPI* library, wmfROP_Draw_t* area)
 {
     constexpr unsigned blackness = 0x42, whiteness = 0xFF0062, patternCopy = 0xF00021;
     const QRectF place = between(area->TL, area->BR);
+    countArea(library, place, 0);
     if (area->ROP == blackness || area->ROP == whiteness)
         painterOf(library).fillRect(place, area->ROP == blackness ? Qt::black : Qt::white);
     else if (area->ROP == patternCopy)
@@ -204,62 +268,53 @@ QByteArray bareBitmap(wmfAPI* library, const wmfBMP_Read_t& record)
     return bytes;
 }
 
-/// Where the pixels begin in a bare bitmap, 0 when its header makes no sense.
-quint32 pixelsFrom(const QByteArray& bare)
-{
-    constexpr quint32 oldHeader = 12, plainHeader = 40, longestHeader = 124, bitFields = 3;
-    if (bare.size() < qsizetype(oldHeader))
-        return 0;
-    const auto header = qFromLittleEndian<quint32>(bare.constData());
-    if (header < oldHeader || header > longestHeader || qsizetype(header) > bare.size())
-        return 0;
-    if (header < plainHeader)
-        return header;
-    const auto bits = qFromLittleEndian<quint16>(bare.constData() + 14);
-    const auto compression = qFromLittleEndian<quint32>(bare.constData() + 16);
-    const auto told = qFromLittleEndian<quint32>(bare.constData() + 32);
-    if (bits > 8)
-        return header + (compression == bitFields && header == plainHeader ? 12 : 0);
-    return header + 4 * (told > 0 && told <= (1u << bits) ? told : 1u << bits);
-}
-
-QByteArray fileHeader(quint32 size, quint32 pixels)
-{
-    QByteArray header("BM");
-    for (const quint32 value : {size, 0u, pixels}) {
-        const quint32 little = qToLittleEndian(value);
-        header.append(reinterpret_cast<const char*>(&little), sizeof little);
-    }
-    return header;
-}
-
 void readBitmap(wmfAPI* library, wmfBMP_Read_t* record)
 {
-    constexpr quint32 headerSize = 14;
     record->bmp.data = nullptr;
     record->bmp.width = record->bmp.height = 0;
+    constexpr double decodingWork = 10; // of a pixel
     const QByteArray bare = bareBitmap(library, *record);
-    const quint32 pixels = pixelsFrom(bare);
-    const QByteArray header = fileHeader(headerSize + quint32(bare.size()), headerSize + pixels);
+    device(library).work += bareBitmapPixels(bare) * decodingWork;
     ignoringErrors({[&] {
-        const QImage read = decodeBitmap(header + bare);
-        device(library).bitmaps.append(read);
+        const QImage read = decodeBareBitmap(bare);
+        MetafileDevice& to = device(library);
+        if (to.bitmapBytes + read.sizeInBytes() > largestBitmap)
+            return;
+        to.bitmapBytes += read.sizeInBytes();
+        to.bitmaps.append(read);
         record->bmp.width = quint16(read.width());
         record->bmp.height = quint16(read.height());
         record->bmp.data = reinterpret_cast<void*>(device(library).bitmaps.size());
     }});
 }
 
-void freeBitmap(wmfAPI*, wmfBMP* bitmap) { bitmap->data = nullptr; }
+/// The bitmap with that handle, null when there is none any more.
+QImage* bitmapOf(wmfAPI* library, const wmfBMP& bitmap)
+{
+    const auto number = reinterpret_cast<qsizetype>(bitmap.data);
+    QList<QImage>& all = device(library).bitmaps;
+    return number >= 1 && number <= all.size() ? &all[number - 1] : nullptr;
+}
+
+void freeBitmap(wmfAPI* library, wmfBMP* bitmap)
+{
+    if (QImage* found = bitmapOf(library, *bitmap)) {
+        device(library).bitmapBytes -= found->sizeInBytes();
+        *found = {};
+    }
+    bitmap->data = nullptr;
+}
 
 void drawBitmap(wmfAPI* library, wmfBMP_Draw_t* drawn)
 {
-    const auto number = reinterpret_cast<qsizetype>(drawn->bmp.data);
-    if (number < 1 || number > device(library).bitmaps.size())
+    const QImage* bitmap = bitmapOf(library, drawn->bmp);
+    if (!bitmap || bitmap->isNull())
         return;
     const QRectF part(drawn->crop.x, drawn->crop.y, drawn->crop.w, drawn->crop.h);
     const QSizeF size(double(drawn->pixel_width) * part.width(), double(drawn->pixel_height) * part.height());
-    painterOf(library).drawImage(QRectF(pointOf(drawn->pt), size), device(library).bitmaps[number - 1], part);
+    const QRectF place(pointOf(drawn->pt), size);
+    countArea(library, place, 0, 5 * pixelWork); // smooth scaling is slower than a fill
+    painterOf(library).drawImage(place, *bitmap, part);
 }
 
 // Text
@@ -279,6 +334,8 @@ void drawText(wmfAPI* library, wmfDrawText_t* text)
     const double height = std::abs(text->font_height);
     if (!text->str || !(height > 0 && height < largestText))
         return;
+    constexpr double characterWork = 20'000;
+    device(library).work += characterWork * double(qstrlen(text->str));
     auto* described = WMF_DC_FONT(text->dc);
     const double scale = height / fontPixels;
     QPainter& painter = painterOf(library);

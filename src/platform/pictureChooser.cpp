@@ -15,6 +15,7 @@ namespace {
 
 constexpr QSize previewSize(200, 152);
 constexpr QSize dialogSize(860, 500);
+const QString invitation = u"Click a picture to see it here."_s;
 
 class Preview : public QLabel {
 public:
@@ -24,14 +25,14 @@ public:
         setFixedSize(previewSize);
         setAlignment(Qt::AlignCenter);
         setWordWrap(true);
-        setAccessibleName(u"Preview"_s);
+        say(invitation);
     }
 
     void showFile(const QString& path)
     {
         wanted = path;
         errands.forgetWaiting();
-        clear();
+        say(QFileInfo(path).isFile() ? QString() : invitation);
         if (!QFileInfo(path).isFile())
             return;
         errands.send([path](const Errands::Forgotten&) { return readPicture(path, previewSize); },
@@ -42,10 +43,16 @@ public:
     }
 
 private:
+    void say(const QString& text)
+    {
+        setText(text);
+        setAccessibleName(text.isEmpty() ? u"Preview"_s : text);
+    }
+
     void showPicture(const QImage& read)
     {
         if (read.isNull())
-            setText(u"This is not a picture"_s);
+            say(u"This is not a picture"_s);
         else
             setPixmap(QPixmap::fromImage(
                 read.scaled(contentsRect().size(), Qt::KeepAspectRatio, Qt::SmoothTransformation)));
@@ -62,6 +69,7 @@ QString choosePictureFile(const QString& caption, const QString& startFolder, co
     QFileDialog dialog(owningWindow(), caption, startFolder, filter);
     dialog.setFileMode(QFileDialog::ExistingFile);
     dialog.setOption(QFileDialog::DontUseNativeDialog);
+    dialog.setOption(QFileDialog::HideNameFilterDetails); // there is no room for the endings
     dialog.resize(dialogSize);
     auto* preview = new Preview;
     auto* grid = static_cast<QGridLayout*>(dialog.layout());

@@ -57,7 +57,7 @@ QImage readPicture(const QString& path, QSize needed) { return decodePicture(rea
 
 QImage decodePicture(const QByteArray& bytes, QSize needed)
 {
-    if (bytes.startsWith("BM"))
+    if (isBitmap(bytes))
         return decodeBitmap(bytes);
     if (beginsAsMetafile(bytes))
         return playMetafile(bytes, needed.isEmpty() ? sizeOfDrawings : needed);

@@ -1,8 +1,10 @@
 #include "store/cardFiles.h"
 
 #include "core/session.h"
+#include "platform/bitmapFile.h"
 #include "platform/desktop.h"
 #include "platform/pictureFile.h"
+#include "platform/stretching.h"
 #include "platform/textFile.h"
 #include "platform/wholeFile.h"
 #include "store/fileStates.h"
@@ -20,6 +22,16 @@ namespace {
 QString cardFile(int card, QLatin1StringView ending)
 {
     return cardFilePath(session.dbPath, session.cardId[card], ending);
+}
+
+/// The picture for Picture1. Cards are saved as bitmaps, which are shown unscaled; what somebody has put in a
+/// bitmap's place, a photo of any size say, is shown whole, like a dropped picture.
+QImage cardPicture(const QByteArray& bytes)
+{
+    const QSize box(session.editor.Picture1.width, session.editor.Picture1.height);
+    const QImage picture = decodePicture(bytes, box);
+    const bool fits = picture.width() <= box.width() && picture.height() <= box.height();
+    return fits || isBitmap(bytes) ? picture : stretched(picture, box);
 }
 
 bool sameIdentity(const QString& recordName, const QString& cardId)
@@ -76,12 +88,12 @@ void loadCardPicture(int card)
     if (session.cardSize == stripSize)
         session.editor.Picture1.image = {};
     else
-        withErrorBox([card] { session.editor.Picture1.image = decodePicture(readCardPicture(card)); });
+        withErrorBox([card] { session.editor.Picture1.image = cardPicture(readCardPicture(card)); });
 }
 
 bool showCardPicture(const QByteArray& bytes)
 {
-    return withErrorBox([&bytes] { session.editor.Picture1.image = decodePicture(bytes); });
+    return withErrorBox([&bytes] { session.editor.Picture1.image = cardPicture(bytes); });
 }
 
 bool cardHasSound(int card) { return QFileInfo(cardFile(card, soundEnding)).isFile(); }

@@ -41,7 +41,7 @@ bool isDamagedRecord(const QByteArray& bytes)
 bool isDamagedPicture(const QByteArray& bytes)
 {
     try {
-        decodePicture(bytes);
+        decodePicture(bytes, {1, 1}); // no photo is too large then
         return false;
     } catch (const RuntimeError&) {
         return true;

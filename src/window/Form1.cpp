@@ -121,7 +121,10 @@ void Form1::connectControls()
     onClick(refreshCheck, [this] { mainView.setRefresh(refreshCheck->isChecked() ? u"On"_s : u"Off"_s); });
     connect(refreshCheck, &QCheckBox::clicked, this, &Form1::showControls); // also after an error
     onClick(cmdQuestion, [] { mainView.showClues(); });
-    onClickLater(cmdCopyGraph, copyGraph);
+    onClickLater(cmdCopyGraph, [] { // by then the graph, or the program, may have gone
+        if (isLoaded<Form1>() && session.window.MSChart.visible)
+            copyGraph();
+    });
     MSChart->pressed = closeMenu; // as on the bare board
     connect(tmrDelCard, &QTimer::timeout, this, [] { guarded(rereadDeleteOption); });
     qApp->installEventFilter(this); // sees every key before the focused control

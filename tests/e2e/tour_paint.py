@@ -211,13 +211,27 @@ def is_upright(above, below):
     return above[2] > 150 > above[1] and below[1] > 100 > below[2]
 
 
+def check_preview(tour):
+    """The preview shows the photo upright beside the list of files."""
+    preview = tour.find("label", "Preview", within=tour.dialog("Import Image"))
+    left, top, width, height = preview.rectangle
+
+    def colour(y):
+        channels = " ".join(f"%[fx:round(255*{channel})]" for channel in "rgb")
+        at = f"1x1+{left + width // 2}+{y}"
+        picture = tour.desk.folder / "preview.png"
+        tour.desk.picture(picture)
+        return [int(value) for value in tour.desk.run("convert", str(picture), "-crop", at, "-format", channels, "info:").split()]
+    tour.wait_until(lambda: is_upright(colour(top + height // 4), colour(top + height * 3 // 4)), "the preview of the photo")
+
+
 def import_photo(tour, painter):
     photo = phones_photo(tour)
     tour.click(next(part for part in tour.dialog(EDITOR).below() if part.name.startswith("Import")))
-    tour.window("Import Image")
-    tour.type(photo.name)
+    tour.click(tour.find("table cell", photo.name, within=tour.dialog("Import Image")))
+    check_preview(tour)
     tour.picture("import")
-    tour.key("Return")
+    tour.click(tour.find("push button", "Open", within=tour.dialog("Import Image")))
     tour.wait_until(lambda: "Import Image" not in tour.windows(), "the chooser to go")
 
     def imported():

@@ -189,3 +189,23 @@ TEST(ChartLayouts, LeaveOutPointsBeyondAFixedScale)
     EXPECT_EQ(layout.marks[2].words, u"300, 9"_s);
     EXPECT_NEAR(layout.marks[0].place().center().x(), layout.plot.left() + layout.plot.width() / 10, 1e-6);
 }
+
+TEST(ChartLayouts, TellFortyLongNamesApartInThePiesLegendOfASmallWindow)
+{
+    for (const QString& name : {u"Giant African land snail %1"_s, u"No. %1 of the snails of Africa"_s}) {
+        Chart chart = chartOf(ChartType::pie, numbersUpTo(40, false), name);
+        chart.legendVisible = true;
+        const ChartLayout layout = layOutChart(chart, {700, 400}, labels());
+        expectLegible(layout);
+        QStringList names;
+        for (const ChartText& text : layout.texts) {
+            if (text.role == ChartTextRole::label && !text.onPaper)
+                names << text.text;
+        }
+        EXPECT_EQ(names.size(), 40);
+        EXPECT_EQ(names.removeDuplicates(), 0) << names.join(u'|').toStdString();
+        for (const QString& text : names)
+            EXPECT_GE(text.size(), 10) << text.toStdString();
+        EXPECT_GT(layout.plot.width(), 200) << "the pie";
+    }
+}

@@ -114,3 +114,57 @@ TEST_F(MetafileReading, WhatIsNoWholeDrawingIsRefused)
     for (const QByteArray& file : cases)
         EXPECT_EQ(errorOf([&] { decodePicture(file); }), invalidPicture) << file.toHex().toStdString();
 }
+
+TEST_F(MetafileReading, ArcsRunAgainstTheClockOnTheSheetAlsoInAMirroredWindow)
+{
+    // A pie from right of the middle to above it, on a sheet of 100 x 80 units; in a mirrored window the ends
+    // lie elsewhere, and the way between them is still the one against the clock.
+    struct Case {
+        const char* what;
+        int left, top, width, height;
+        const char* quarters; // upper left, upper right, lower left, lower right: '#' where the pie is
+    };
+    const Case cases[] = {
+        {"plain", 0, 0, 100, 80, ".#.."},
+        {"upside down", 0, 80, 100, -80, "###."},
+        {"left to right", 100, 0, -100, 80, ".###"},
+        {"both", 100, 80, -100, -80, "..#."},
+    };
+    for (const Case& c : cases) {
+        const QImage picture =
+            decodePicture(pieOnSheet(Metafile().window(c.left, c.top, c.width, c.height)), {320, 242});
+        QByteArray found;
+        for (const auto& [x, y] : {std::pair(0.4, 0.4), {0.6, 0.4}, {0.4, 0.6}, {0.6, 0.6}})
+            found += colourAt(picture, x, y) == QColor(Qt::blue) ? '#' : '.';
+        EXPECT_EQ(found, c.quarters) << c.what;
+    }
+}
+
+TEST_F(MetafileReading, TheEndsOfAnArcMayLieAnywhereOnTheirRays)
+{
+    // From the right to 63 degrees above it, where the end lies outside the ellipse's frame.
+    const QByteArray file = Metafile()
+                                .window(0, 0, 100, 80)
+                                .noPen(0)
+                                .brush(1, redWord)
+                                .add(0x041B, {80, 100, 0, 0})
+                                .brush(2, blueWord)
+                                .add(0x081A, {0, 70, 40, 100, 70, 80, 10, 20})
+                                .bytes();
+    const QImage picture = decodePicture(file, {320, 242});
+    EXPECT_EQ(colourAt(picture, 0.625, 0.23), QColor(Qt::blue));
+    EXPECT_EQ(colourAt(picture, 0.594, 0.21), QColor(Qt::red));
+}
+
+TEST_F(MetafileReading, AFewBytesDoNotAskForEndlessWork)
+{
+    Metafile bitmaps = Metafile().window(0, 0, 100, 80);
+    Metafile sheets = bitmaps;
+    for (int record = 0; record < 100; ++record) // a bitmap of 5000 x 5000 pixels that tells none of them
+        bitmaps.add(0x0F43, {0x20, 0xCC, 0, 80, 100, 0, 0, 80, 100, 0, 0, 40, 0, 5000, 0, 5000, 0,
+                             1,    8,    1, 0,  0,   0, 0, 0,  0,   0, 1, 0,  0, 0,    0, 0,    0x100});
+    for (int record = 0; record < 20000; ++record)
+        sheets.add(0x041B, {80, 100, 0, 0});
+    EXPECT_EQ(errorOf([&] { decodePicture(bitmaps.bytes(), {640, 480}); }), invalidPicture);
+    EXPECT_EQ(errorOf([&] { decodePicture(sheets.bytes(), {640, 480}); }), invalidPicture);
+}

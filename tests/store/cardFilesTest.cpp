@@ -111,3 +111,22 @@ TEST_F(CardFiles, OfOneCardGoTogetherWhateverTheirCapitals)
     EXPECT_EQ(cardFilesOfOneRecord(cardIdOf(u"CARDAAAA older.tcd"_s), {}),
               QStringList({file("cardaaaa.TCD"), file("CARDAAAA.bmp"), file("Cardaaaa.Snd")}));
 }
+
+TEST_F(CardFiles, APhotoInThePlaceOfTheBitmapIsShownWholeWhateverItsSize)
+{
+    for (const QSize size :
+         {QSize(400, 300), QSize(12000, 9000)}) { // Qt refuses to decode the second one whole
+        QImage photo(size, QImage::Format_RGB888);
+        photo.fill(Qt::red);
+        for (int y = 0; y < size.height(); ++y)
+            std::fill_n(photo.scanLine(y), size.width() / 2 * 3, uchar(0));
+        EXPECT_TRUE(photo.save(file("CARDAAAA.bmp"), "JPG"));
+        photo = {};
+        loadCardPicture(1);
+        const QImage shown = session.editor.Picture1.image;
+        ASSERT_EQ(shown.size(), QSize(159, 120));
+        EXPECT_LT(QColor(shown.pixel(70, 60)).red(), 30);
+        EXPECT_GT(QColor(shown.pixel(90, 60)).red(), 220);
+        EXPECT_TRUE(recorded.messages.isEmpty());
+    }
+}
