@@ -86,7 +86,7 @@ bool chosenFieldIsText() { return session.fieldType[session.chosenField] == "Abc
 
 graphWiz::graphWiz()
     : AnswerDialog(new AnswerButtons({"OKbut", u"OK"_s}, {"Btncancel", u"Cancel"_s}))
-    , graphTab(named(new QTabWidget, "graphTab"))
+    , graphTab(named(new SingleTab, "graphTab"))
     , fieldCombo(fieldChoice("fieldCombo"))
     , field1combo(axisChoice("field1combo", 1))
     , field2combo(axisChoice("field2combo", 2))
@@ -126,7 +126,6 @@ void graphWiz::fillFieldPage()
     inTab->addStretch(1);
     graphTab->addTab(tab, u"Graph"_s);
     graphTab->tabBar()->installEventFilter(this);
-    pressableSingleTab(*graphTab->tabBar());
     fieldCombo->setAccessibleName(u"Make a graph about"_s);
 
     QVBoxLayout* column = pageWithHeading(*Frame[0], "Label1", u"1. Make a graph about:"_s);

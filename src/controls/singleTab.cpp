@@ -5,19 +5,24 @@
 
 namespace {
 
-constexpr const char* mark = "singleTab";
+/// A class of its own, known from its first moment: once asked for, an interface is kept.
+class SingleTabBar : public QTabBar {};
 
 /// The bar and its tab in one.
-class SingleTab : public QAccessibleWidget {
+class TabInterface : public QAccessibleWidget {
 public:
-    explicit SingleTab(QTabBar& tabBar)
-        : QAccessibleWidget(&tabBar, QAccessible::PageTab, tabBar.tabText(0))
+    explicit TabInterface(SingleTabBar& tabBar)
+        : QAccessibleWidget(&tabBar, QAccessible::PageTab)
         , bar(tabBar)
     {
     }
 
     int childCount() const override { return 0; } // scroll buttons that are never needed
     QAccessibleInterface* child(int) const override { return nullptr; }
+    QString text(QAccessible::Text kind) const override
+    {
+        return kind == QAccessible::Name ? bar.tabText(0) : QAccessibleWidget::text(kind);
+    }
     QAccessible::State state() const override
     {
         QAccessible::State state = QAccessibleWidget::state();
@@ -34,23 +39,20 @@ public:
     }
 
 private:
-    QTabBar& bar;
+    SingleTabBar& bar;
 };
 
 QAccessibleInterface* makeInterface(const QString&, QObject* object)
 {
-    auto* bar = qobject_cast<QTabBar*>(object);
-    return bar && bar->property(mark).toBool() ? new SingleTab(*bar) : nullptr;
+    auto* bar = dynamic_cast<SingleTabBar*>(object);
+    return bar ? new TabInterface(*bar) : nullptr;
 }
 
 } // namespace
 
-void pressableSingleTab(QTabBar& bar)
+SingleTab::SingleTab()
 {
-    static const bool installed = [] {
-        QAccessible::installFactory(makeInterface);
-        return true;
-    }();
+    static const bool installed = (QAccessible::installFactory(makeInterface), true);
     Q_UNUSED(installed);
-    bar.setProperty(mark, true);
+    setTabBar(new SingleTabBar);
 }

@@ -213,7 +213,7 @@ def is_upright(above, below):
 
 def check_preview(tour):
     """The preview shows the photo upright beside the list of files."""
-    preview = tour.find("label", "Preview", within=tour.dialog("Import Image"))
+    preview = tour.find("image", "Preview", within=tour.dialog("Import Image"))
     left, top, width, height = preview.rectangle
 
     def colour(y):
