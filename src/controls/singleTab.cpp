@@ -18,7 +18,11 @@ public:
     }
 
     int childCount() const override { return 0; } // scroll buttons that are never needed
-    QAccessibleInterface* child(int) const override { return nullptr; }
+    /// What Qt says of the bar's tab is said of this.
+    QAccessibleInterface* child(int index) const override
+    {
+        return index == 0 ? const_cast<TabInterface*>(this) : nullptr;
+    }
     QString text(QAccessible::Text kind) const override
     {
         return kind == QAccessible::Name ? bar.tabText(0) : QAccessibleWidget::text(kind);

@@ -96,9 +96,10 @@ bool beginsAsMetafile(const QByteArray& file)
 
 QImage playMetafile(const QByteArray& file, QSize size)
 {
-    if (!isWholeMetafile(file))
+    const QByteArray checked = checkedMetafile(file);
+    if (checked.isEmpty())
         throw RuntimeError(invalidPicture);
-    Player player(file);
+    Player player(checked);
     const QRectF area = player.area();
     const QSizeF covering = area.size().scaled(size, Qt::KeepAspectRatioByExpanding);
     const QSize made = covering.toSize().expandedTo({1, 1}).boundedTo({largestSide, largestSide});

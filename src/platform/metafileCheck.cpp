@@ -2,10 +2,13 @@
 
 #include <QtEndian>
 
+#include <algorithm>
+
 namespace {
 
 constexpr qsizetype placeableSize = 22;
 constexpr qsizetype headerSize = 18;
+constexpr qsizetype toldLongest = 12; // where the header tells the words of the longest record
 constexpr qsizetype recordHeader = 6;
 constexpr quint16 headerWords = 9;
 constexpr quint16 newestType = 2; // 1 in memory, 2 on a disk
@@ -24,31 +27,39 @@ bool placeMakesSense(const QByteArray& file)
            word(8) != word(12);
 }
 
-bool recordsEnd(const QByteArray& file, qsizetype from)
+/// The length of the longest record in bytes, 0 when the records don't end.
+qsizetype longestRecord(const QByteArray& file, qsizetype from)
 {
+    qsizetype longest = 0;
     while (from + recordHeader <= file.size()) {
         const qsizetype bytes = qsizetype(valueAt<quint32>(file, from)) * 2;
         if (bytes < recordHeader || from + bytes > file.size())
-            return false;
+            return 0;
+        longest = std::max(longest, bytes);
         if (valueAt<quint16>(file, from + 4) == 0)
-            return true;
+            return longest;
         from += bytes;
     }
-    return false;
+    return 0;
 }
 
 } // namespace
 
-bool isWholeMetafile(const QByteArray& file)
+QByteArray checkedMetafile(const QByteArray& file)
 {
     if (file.size() < headerSize)
-        return false;
+        return {};
     qsizetype start = 0;
     if (valueAt<quint32>(file, 0) == placeableKey) {
         if (!placeMakesSense(file))
-            return false;
+            return {};
         start = placeableSize;
     }
-    return valueAt<quint16>(file, start) <= newestType && valueAt<quint16>(file, start + 2) == headerWords &&
-           recordsEnd(file, start + headerSize);
+    const qsizetype longest = longestRecord(file, start + headerSize);
+    if (valueAt<quint16>(file, start) > newestType || valueAt<quint16>(file, start + 2) != headerWords ||
+        longest == 0)
+        return {};
+    QByteArray checked = file;
+    qToLittleEndian(quint32(longest / 2), checked.data() + start + toldLongest);
+    return checked;
 }

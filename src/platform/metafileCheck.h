@@ -5,5 +5,6 @@
 
 inline constexpr quint32 placeableKey = 0x9AC6CDD7;
 
-/// Whether the headers make sense and every record ends within the file: on others the library may loop.
-bool isWholeMetafile(const QByteArray& file);
+/// The metafile with a header that asks for no more memory than its longest record takes. Empty when the
+/// headers make no sense or a record doesn't end within the file: the library may loop on those.
+QByteArray checkedMetafile(const QByteArray& file);
