@@ -133,6 +133,8 @@ void Form1::connectControls()
 /// Changes the mode and reloads the folder, after a click on a mode button.
 void Form1::changeMode(const QPushButton& button)
 {
+    if (session.menu.MenuHolder.visible)
+        closeMenu(); // assistive technology has pressed the button
     loadAllCards();
     session.graph.graphOnScreen = 0;
     session.window.btnCards.pressed = &button == btnCards;
@@ -211,9 +213,20 @@ void Form1::closeEvent(QCloseEvent* event)
     event->accept();
 }
 
+/// Whether a press on that control closes an open menu. The board handles presses on itself.
+bool Form1::closesMenu(const QWidget& pressed) const
+{
+    const auto isIn = [&pressed](const QWidget* whole) {
+        return whole == &pressed || whole->isAncestorOf(&pressed);
+    };
+    return session.menu.MenuHolder.visible && (isIn(toolbarBlock) || isIn(tablePanel)) && !isIn(menuBar);
+}
+
 bool Form1::eventFilter(QObject* watched, QEvent* event)
 {
     auto* control = qobject_cast<QWidget*>(watched);
+    if (event->type() == QEvent::MouseButtonPress && control && closesMenu(*control))
+        guarded(closeMenu);
     if (event->type() != QEvent::KeyPress || !control || control->window() != this ||
         !opensTeacherOptions(*static_cast<QKeyEvent*>(event)))
         return false;

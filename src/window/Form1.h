@@ -49,5 +49,6 @@ private:
     void fillBand();
     void connectControls();
     void changeMode(const QPushButton& button);
+    bool closesMenu(const QWidget& pressed) const;
     void showChart();
 };

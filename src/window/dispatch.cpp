@@ -81,8 +81,16 @@ QString pictureOf(const QString& word)
     return line ? line->icon : QString();
 }
 
+bool lineIsEnabled(int line)
+{
+    const MenuLine* known = menuLine(session.menu.menuItemCaption[session.menu.openMenuIndex][line]);
+    return session.menu.menuCaption[line].enabled && (!known || known->command);
+}
+
 void dispatchLine(int line)
 {
+    if (!session.menu.MenuHolder.visible)
+        return; // assistive technology has pressed the line twice, and the first press has closed the menu
     mainView.setRefresh(u"Off"_s);
     session.menu.pullDownBut.visible = false;
     session.menu.AnswerHolder.visible = false;
@@ -90,7 +98,7 @@ void dispatchLine(int line)
     const QString word = session.menu.menuItemCaption[session.menu.openMenuIndex][line];
     if (word != "Print..."_L1)
         clearBoardLabels();
-    if (!session.menu.menuCaption[line].enabled)
+    if (!lineIsEnabled(line))
         return;
     closeMenu();
     runCommand(word);

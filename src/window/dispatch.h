@@ -27,7 +27,11 @@ const MenuLine* menuLine(const QString& word);
 /// The name of the word's icon, empty when it has none.
 QString pictureOf(const QString& word);
 
-/// Handles a click on a line of the open menu.
+/// Whether a click on that line of the open menu runs its command: the menu allows it, and the command
+/// exists.
+bool lineIsEnabled(int line);
+
+/// Handles a click on a line of the open menu; does nothing while no menu is open.
 void dispatchLine(int line);
 
 /// Runs the command of that word; an unknown word does nothing.

@@ -154,7 +154,7 @@ void MenuBar::fillLine(int line)
     if (!used)
         return;
     const QString word = session.menu.menuItemCaption[shownMenu][line];
-    const bool enabled = session.menu.menuCaption[line].enabled;
+    const bool enabled = lineIsEnabled(line);
     menuCaption[line]->setText(word);
     menuCaption[line]->setEnabled(enabled);
     menuPic[line]->setEnabled(enabled);

@@ -54,6 +54,18 @@ TEST_F(MainWindow, WithoutADatabaseOnlyTheFileMenuWorks)
                  window.tablePanel->isVisible());
 }
 
+TEST_F(MainWindow, AClickOnTheTableOrAModeButtonClosesTheMenu)
+{
+    setMode(u"table"_s);
+    session.window.btnCards.enabled = true;
+    for (QWidget* place :
+         {window.findChild<QTableWidget*>()->viewport(), static_cast<QWidget*>(window.btnCards)}) {
+        openMenu(0);
+        QTest::mousePress(place, Qt::LeftButton);
+        EXPECT_FALSE(window.menuBar->MenuHolder->isVisible()) << place->objectName().toStdString();
+    }
+}
+
 TEST_F(MainWindow, OnlyTheTeachersChordOpensTheOptionsAndItStopsTheRefresh)
 {
     const Qt::KeyboardModifiers chord = Qt::ControlModifier | Qt::ShiftModifier;

@@ -62,14 +62,23 @@ TEST_F(Dispatch, EveryLineOfTheMenusIsKnownAndHasItsPicture)
         EXPECT_TRUE(QFile::exists(u":/pictures/%1.svg"_s.arg(pictureOf(word)))) << word.toStdString();
 }
 
-TEST_F(Dispatch, TheseWordsStillWaitForTheirCommand)
+TEST_F(Dispatch, ALineIsGreyUntilItsCommandExists)
 {
-    QStringList waiting;
-    for (const QString& word : wordsOfTheMenus()) {
-        if (!menuLine(word)->command)
-            waiting.append(word);
+    for (int menu = 0; menu <= lastHeading; ++menu) {
+        openMenu(menu);
+        for (int line = 0; line <= session.menu.menuLastItem[menu]; ++line) {
+            const QString word = session.menu.menuItemCaption[menu][line];
+            EXPECT_EQ(lineIsEnabled(line), menuLine(word)->command != nullptr) << word.toStdString();
+        }
     }
-    EXPECT_EQ(waiting.join(u'|'), u"Print...|Report...|Help"_s);
+}
+
+TEST_F(Dispatch, ASecondPressOfALineDoesNothing)
+{
+    choose("Delete Card");
+    session.board.BigBin.visible = false;
+    dispatchLine(1);
+    EXPECT_FALSE(session.board.BigBin.visible);
 }
 
 TEST_F(Dispatch, EveryCommandFirstClearsTheTableAndClosesTheMenu)
@@ -139,7 +148,7 @@ TEST_F(Dispatch, RefusesWhereThereAreTooFewOrTooManyCards)
         recorded.beeps = 0;
         session.numCards = cards;
         session.graph.graphOnScreen = 7;
-        choose(word);
+        runCommand(QLatin1String(word));
         EXPECT_EQ(recorded.messages.join(u'/'), QLatin1String(message)) << word << cards;
         EXPECT_EQ(recorded.beeps, message ? 1 : 0) << word << cards;
         EXPECT_EQ(session.graph.graphOnScreen, graphOnScreen) << word << cards;
