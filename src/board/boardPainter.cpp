@@ -38,12 +38,17 @@ void paintShapes(QPainter& painter, const BoardLook& look)
     }
     const std::pair<const BoardShape&, QColor> circles[] = {{session.board.VennLeftCircle, look.leftTint},
                                                             {session.board.VennRightCircle, look.rightTint}};
-    for (const auto& [circle, tint] : circles) {
-        if (!circle.visible)
-            continue;
-        painter.setBrush(tint);
-        painter.drawEllipse(QRectF(wholePixels(circle)).marginsRemoved(inside));
-    }
+    const auto drawCircles = [&](const QPen& pen, auto brushOf) {
+        painter.setPen(pen);
+        for (const auto& [circle, tint] : circles) {
+            painter.setBrush(brushOf(tint));
+            if (circle.visible)
+                painter.drawEllipse(QRectF(wholePixels(circle)).marginsRemoved(inside));
+        }
+    };
+    // Both outlines lie over both tints, so that neither changes colour inside the other circle.
+    drawCircles(Qt::NoPen, [](const QColor& tint) { return QBrush(tint); });
+    drawCircles(QPen(look.ink, outline), [](const QColor&) { return QBrush(Qt::NoBrush); });
 }
 
 void paintBin(QPainter& painter, const BoardLook& look)

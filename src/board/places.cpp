@@ -67,6 +67,6 @@ void markCard(int card)
 {
     const CardImage& marked = session.box[card];
     session.board.SelectBox = {marked.left - frameGap, marked.top - frameGap, marked.width + 2 * frameGap,
-                               marked.height + 2 * frameGap, true};
+                               marked.height + 2 * frameGap, marked.visible};
     mainView.redrawCard(card);
 }

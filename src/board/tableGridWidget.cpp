@@ -174,18 +174,25 @@ void TableGridWidget::wheelEvent(QWheelEvent* event) { event->ignore(); } // the
 void TableGridWidget::dragEnterEvent(QDragEnterEvent* event)
 {
     if (event->mimeData()->hasUrls())
-        event->acceptProposedAction();
+        event->acceptProposedAction(); // from now on the moves are reported
 }
 
-void TableGridWidget::dragMoveEvent(QDragMoveEvent* event) { event->acceptProposedAction(); }
+/// The pointer shows where a drop counts: on the pictures of the cards.
+void TableGridWidget::dragMoveEvent(QDragMoveEvent* event) { event->setAccepted(rowUnder(*event) != 0); }
 
 void TableGridWidget::dropEvent(QDropEvent* event)
 {
-    const QPointF place =
-        event->position() + QPointF(0, session.table.Grid.headerHeight); // from viewport to grid coordinates
     const QList<QUrl> files = event->mimeData()->urls();
-    event->acceptProposedAction();
-    const int row = rowOfDrop(place.x(), place.y());
-    if (row != 0 && !files.isEmpty())
+    const int row = rowUnder(*event);
+    event->setAccepted(row != 0 && !files.isEmpty());
+    if (event->isAccepted())
         guarded([&] { dropPictureOnRow(row, files.first().toLocalFile()); });
+}
+
+/// The row of the session's grid on whose picture the mouse is, 0 beside the pictures and in an empty row.
+int TableGridWidget::rowUnder(const QDropEvent& drag) const
+{
+    const QPointF inViewport = drag.position();
+    const int row = rowOfDrop(inViewport.x(), inViewport.y() + session.table.Grid.headerHeight);
+    return row != 0 && !session.table.Grid.cardId[row].isEmpty() ? row : 0;
 }

@@ -28,4 +28,5 @@ private:
     void showName(int column, const QString& name);
     void showRow(int row);
     void keepOnCards();
+    int rowUnder(const QDropEvent& drag) const;
 };

@@ -2,9 +2,10 @@
 
 #include <QCursor>
 #include <QEvent>
-#include <QTextDocument>
 #include <QToolTip>
 #include <QWidget>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -42,7 +43,9 @@ void endHint() { QToolTip::hideText(); }
 
 QString plainHint(const QString& text)
 {
-    return text.isEmpty() ? QString() : Qt::convertFromPlainText(text, Qt::WhiteSpaceNormal);
+    // Not Qt::convertFromPlainText(), whose paragraphs have an empty line above and below.
+    return text.isEmpty() ? QString()
+                          : u"<span>"_s + text.toHtmlEscaped().replace(u'\n', "<br>"_L1) + u"</span>"_s;
 }
 
 QString hintInView() { return QToolTip::isVisible() ? QToolTip::text() : QString(); }

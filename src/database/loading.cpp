@@ -195,11 +195,15 @@ void forgetLoadedFaces() { lastFaces.clear(); }
 void loadAllCards()
 {
     const QStringList files = recordFiles(session.dbPath);
+    if (files.size() > lastCard)
+        throw RuntimeError(outOfRange);
     const int before = session.numCards;
     const qint64 background = session.backgroundImage.cacheKey();
     session.fileStates.clear();
     readDbInfo();
     session.numCards = int(files.size());
+    if (session.selectedCard > session.numCards)
+        session.board.SelectBox.visible = false; // the card in the frame has gone
     FaceLoader faces;
     bool changed = before != session.numCards || background != session.backgroundImage.cacheKey();
     for (int card = 1; card <= session.numCards; ++card) {

@@ -1,5 +1,6 @@
 #include "database/opening.h"
 
+#include "database/loading.h"
 #include "store/settings.h"
 #include "support/cards.h"
 #include "support/database.h"
@@ -92,6 +93,31 @@ TEST_F(Opening, TellsThatTheLastDatabaseIsGoneAndOpensNothing)
     EXPECT_TRUE(session.window.title.contains(gone));
     EXPECT_FALSE(session.menu.MenuTop[1].enabled);
     EXPECT_EQ(lastDatabase(), gone);
+}
+
+TEST_F(Opening, ShowsNoCardsAndNoMenusForMoreRecordsThanTheTableHolds)
+{
+    const QString folder = writeDatabase(u"db"_s, 1);
+    for (int i = 0; i < lastCard; ++i)
+        putFile(folder + u"/CARD%1.tcd"_s.arg(i, 4, 10, '0'_L1), "\"00000000\"\r\n\"x\"\r\n");
+    remember(folder);
+    openLastDatabase();
+    EXPECT_EQ(session.numCards, 0);
+    EXPECT_FALSE(session.box[1].visible);
+    EXPECT_FALSE(session.menu.MenuTop[1].enabled);
+}
+
+TEST_F(Opening, FramesNoCardThatIsNotOnTheBoard)
+{
+    openChosenFolder(writeDatabase(u"empty"_s, 0));
+    EXPECT_FALSE(session.board.SelectBox.visible);
+    const QString folder = writeDatabase(u"db"_s, 2);
+    openChosenFolder(folder);
+    session.selectedCard = 2;
+    EXPECT_TRUE(session.board.SelectBox.visible);
+    QFile::remove(folder + u"/BBBBBBBB.tcd"_s);
+    loadAllCards();
+    EXPECT_FALSE(session.board.SelectBox.visible) << "another workstation took the card";
 }
 
 TEST_F(Opening, GoesOnWithoutADescriptionFile)
