@@ -10,6 +10,7 @@
 #include "database/loading.h"
 #include "platform/desktop.h"
 #include "platform/fonts.h"
+#include "platform/values.h"
 #include "store/cardFiles.h"
 #include "store/cardSaving.h"
 #include "store/fileStates.h"
@@ -126,8 +127,9 @@ QString allowedValue(int f, const QString& text)
 {
     if (session.fieldType[f] != "123"_L1)
         return text;
+    const QString typed = withDecimalPoints(text);
     QString allowed;
-    std::copy_if(text.begin(), text.end(), std::back_inserter(allowed),
+    std::copy_if(typed.begin(), typed.end(), std::back_inserter(allowed),
                  [](QChar c) { return u"0123456789."_s.contains(c); });
     return allowed;
 }

@@ -77,6 +77,11 @@ double leadingNumber(const QString& text)
     return std::clamp(number, -largest, largest);
 }
 
+QString withDecimalPoints(const QString& text)
+{
+    return QLocale().decimalPoint() == ","_L1 ? QString(text).replace(u',', u'.') : text;
+}
+
 qint16 toInteger(double number)
 {
     const double rounded = std::nearbyint(number); // the default rounding mode rounds halves to even

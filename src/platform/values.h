@@ -10,6 +10,10 @@
 /// for a number that is too large.
 double leadingNumber(const QString& text);
 
+/// The text with a point for every comma where the country writes 4,5, unchanged elsewhere: for what is
+/// entered as a number, which a dropped comma would multiply by ten.
+QString withDecimalPoints(const QString& text);
+
 /// The nearest 16-bit integer, halves to the even neighbour. Raises 6 outside -32768..32767.
 qint16 toInteger(double number);
 

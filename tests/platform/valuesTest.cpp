@@ -2,6 +2,8 @@
 
 #include "support/files.h"
 
+#include <QLocale>
+
 #include <limits>
 
 using namespace Qt::StringLiterals;
@@ -29,6 +31,15 @@ TEST(Values, TakeTheLongestNumberThatATextBeginsWith)
         EXPECT_EQ(leadingNumber(QString::fromLatin1(text)), number) << '"' << text << '"';
     EXPECT_EQ(leadingNumber(u"٣"_s), 0) << "digits of other scripts are no digits";
     EXPECT_EQ(leadingNumber(QString(100'000, u'9')), largest);
+}
+
+TEST(Values, ACommaIsAPointWhereTheCountryWritesItSo)
+{
+    QLocale::setDefault(QLocale(QLocale::German));
+    EXPECT_EQ(withDecimalPoints(u"4,5"_s), u"4.5"_s);
+    QLocale::setDefault(QLocale(QLocale::English));
+    EXPECT_EQ(withDecimalPoints(u"4,5"_s), u"4,5"_s);
+    QLocale::setDefault(QLocale::system());
 }
 
 TEST(Values, RoundHalvesToTheEvenInteger)
