@@ -12,7 +12,7 @@ import subprocess
 import tempfile
 import time
 
-SCREEN = (1280, 800)
+SCREENS = ("1366x768", "1920x1080")  # of a small laptop, and of a projector: there the program is 1.5 times as large
 PATIENCE = 30  # seconds until a wait counts as failed; a loaded machine may need most of it
 
 
@@ -33,10 +33,11 @@ def wait_until(condition, what, timeout=PATIENCE):
 
 
 class Desk:
-    """The running desktop, X or Wayland. `folder` is private and removed with it; `environment`
-    is for programs started on it."""
+    """The running desktop, X or Wayland, on a screen such as "1366x768". `folder` is private and removed with it;
+    `environment` is for programs started on it."""
 
-    def __init__(self, wayland=False):
+    def __init__(self, screen=SCREENS[0], wayland=False):
+        self._screen = screen
         self._wayland = wayland
         self.folder = pathlib.Path(tempfile.mkdtemp(prefix="tallymoor-tour-"))
         self._processes = []
@@ -66,8 +67,8 @@ class Desk:
         self._start_sound()
 
     def _start_display(self):
-        size = "x".join(map(str, SCREEN))
-        number = self._told_number("Xvfb", "-displayfd", "{}", "-screen", "0", f"{size}x24", "-nolisten", "tcp", "-noreset")
+        number = self._told_number("Xvfb", "-displayfd", "{}", "-screen", "0", f"{self._screen}x24", "-nolisten", "tcp",
+                                   "-noreset")
         self.environment["DISPLAY"] = f":{number}"
         self.run("setxkbmap", "de")  # the one map on which "ä" and "€" can be typed
         if self._wayland:
@@ -79,11 +80,12 @@ class Desk:
     def _start_wayland(self):
         """A Wayland desktop in a window that nearly fills the display: in one that fills it the mouse stands still.
         There is no window manager, which would move that window. Programs start on it from now on."""
+        width, height = (int(side) - 16 for side in self._screen.split("x"))
         settings = self.folder / "weston.ini"
         settings.write_text("[shell]\npanel-position=none\nlocking=false\nanimation=none\nstartup-animation=none\n"
                             "[input-method]\npath=\n")
-        self.start("weston", "--backend=x11-backend.so", "--use-pixman", f"--width={SCREEN[0] - 16}",
-                   f"--height={SCREEN[1] - 16}", "--socket=tour", "--idle-time=0", f"--config={settings}")
+        self.start("weston", "--backend=x11-backend.so", "--use-pixman", f"--width={width}", f"--height={height}",
+                   "--socket=tour", "--idle-time=0", f"--config={settings}")
         wait_until((self.folder / "run" / "tour").exists, "the Wayland desktop")
         self.environment |= {"WAYLAND_DISPLAY": "tour", "QT_QPA_PLATFORM": "wayland"}
 

@@ -8,7 +8,10 @@ A tour is a short script:
         tour.picture("welcome")
 
 Whatever does not come in time fails the tour, with a picture, the program's own words and an outline of its windows
-in the folder of the tour's pictures."""
+in the folder of the tour's pictures.
+
+Places and distances are in the program's own pixels, which assistive technology reports too; on a large screen one of
+them takes up more than one pixel of the screen."""
 
 import argparse
 import os
@@ -19,7 +22,7 @@ import subprocess
 import sys
 
 import reader
-from desk import PATIENCE, Desk, Ear, Failed, wait_until
+from desk import PATIENCE, SCREENS, Desk, Ear, Failed, wait_until
 
 HOUSE = pathlib.Path(__file__).resolve().parents[2]
 sys.path.insert(0, str(HOUSE / "scripts"))
@@ -38,14 +41,16 @@ class Tour:
         options.add_argument("--program", type=pathlib.Path, required=True, help="folder of the built program")
         options.add_argument("--samples", type=pathlib.Path, required=True, help="folder of the built sample databases")
         options.add_argument("--pictures", type=pathlib.Path, required=True, help="folder for the tours' pictures")
+        options.add_argument("--screen", default=SCREENS[0], help="size of the screen, such as %(default)s")
         chosen = options.parse_args()
-        self.pictures = chosen.pictures.resolve() / name
-        self._wayland = wayland
+        self.pictures = chosen.pictures.resolve() / (name if chosen.screen == SCREENS[0] else f"{name}-{chosen.screen}")
+        self._wayland, self._screen = wayland, chosen.screen
+        self._scale = 1 if wayland else None
         shutil.rmtree(self.pictures, ignore_errors=True)
         self._source, self._samples = chosen.program.resolve(), chosen.samples.resolve()
 
     def __enter__(self):
-        self.desk = Desk(self._wayland)
+        self.desk = Desk(self._screen, self._wayland)
         reader.connect(self.desk.environment)
         self.program = self.desk.folder / "Tallymoor"
         self.settings = Settings(self.program)
@@ -201,28 +206,47 @@ class Tour:
         edges = self.desk.run("xprop", "-id", number, "_NET_FRAME_EXTENTS").split("=")[1].split(",")
         bar = int(edges[2])  # left, right, top, bottom
         left, top, width, _ = self._client(number)
-        self.click((left + width - bar // 2, top - bar // 2))
+        self._click_screen(left + width - bar // 2, top - bar // 2)
 
     def _client(self, number):
-        """Left, top, width and height of a window without its frame."""
+        """Left, top, width and height of a window without its frame, in pixels of the screen."""
         told = dict(re.findall(r"(Absolute upper-left [XY]|Width|Height): +(-?\d+)",
                                self.desk.run("xwininfo", "-id", number)))
         return tuple(int(told[key]) for key in ("Absolute upper-left X", "Absolute upper-left Y", "Width", "Height"))
 
     # Mouse and keys
 
+    def scale(self):
+        """The number of the screen's pixels to one of the program's, as measured at a window that is on the screen."""
+        def measured():
+            root = reader.program(self._process.pid)
+            for part in root.children if root else ():
+                numbers = self._window_numbers(f"^{re.escape(part.name)}$") if part.has("showing") else ()
+                if numbers:
+                    return round(4 * self._client(numbers[-1])[2] / part.rectangle[2]) / 4
+            return None
+        if self._scale is None:
+            self._scale = self.wait_until(measured, "a window to be measured")
+        return self._scale
+
     @staticmethod
     def place(where):
-        """The middle of a part, or the place on the screen itself."""
+        """The middle of a part, or the place itself."""
         return where if isinstance(where, tuple) else where.centre
+
+    def _on_screen(self, where):
+        """The same in pixels of the screen."""
+        return tuple(round(coordinate * self.scale()) for coordinate in self.place(where))
 
     def point(self, where):
         """Moves the mouse there."""
-        self.desk.run("xdotool", "mousemove", *map(str, self.place(where)))
+        self.desk.run("xdotool", "mousemove", *map(str, self._on_screen(where)))
 
     def click(self, where, button=1, times=1):
-        """Clicks a part in its middle, or a place on the screen."""
-        x, y = self.place(where)
+        """Clicks a part in its middle, or a place."""
+        self._click_screen(*self._on_screen(where), button, times)
+
+    def _click_screen(self, x, y, button=1, times=1):
         self.desk.run("xdotool", "mousemove", str(x), str(y), "click", "--repeat", str(times), "--delay", "60", str(button))
         self.clicks += times
 
@@ -236,13 +260,14 @@ class Tour:
         """Drags a part by its middle, or whatever is at a place, `by` pixels right and down."""
         x, y = self.place(where)
         self.clicks += 1
-        steps = [(x + by[0] * i // 4, y + by[1] * i // 4) for i in (1, 2, 3, 4)]
-        moves = [word for step in steps for word in ("mousemove", *map(str, step))]
-        self.desk.run("xdotool", "mousemove", str(x), str(y), "mousedown", str(button), *moves, "mouseup", str(button))
+        steps = [self._on_screen((x + by[0] * i // 4, y + by[1] * i // 4)) for i in range(5)]
+        start, *moves = [("mousemove", *map(str, step)) for step in steps]
+        self.desk.run("xdotool", *start, "mousedown", str(button), *(word for move in moves for word in move),
+                      "mouseup", str(button))
 
-    def drop_file(self, path, where):
-        """Drags a file from a window of another program onto a part, or a place on the screen, that accepts it."""
-        x, y = self.place(where)
+    def drop_file(self, path, where, answer="taken"):
+        """Drags a file from a window of another program onto a part, or a place, that takes or refuses it."""
+        x, y = self._on_screen(where)
         self.clicks += 1
         said = self.desk.folder / "drop.log"
         said.unlink(missing_ok=True)
@@ -253,8 +278,8 @@ class Tour:
             self.desk.run("xdotool", "mousemove", str(to_x), str(to_y), *(("mousedown", "1") if step == 0 else ()),
                           "sleep", "0.1")  # the drag's own protocol needs a moment for each answer
         self.desk.run("xdotool", "mouseup", "1")
-        answer = self.wait_until(lambda: re.search("taken|refused", said.read_text()), "the end of the drag")
-        self.check(answer[0] == "taken", f"nobody took {path}")
+        given = self.wait_until(lambda: re.search("taken|refused", said.read_text()), "the end of the drag")
+        self.check(given[0] == answer, f"{path} was {given[0]}")
 
     def key(self, *keys):
         """Presses keys one after the other: "Return", "ctrl+shift+k"."""

@@ -39,7 +39,8 @@ class Thing:
 
     @property
     def rectangle(self):
-        """Left, top, width, height on the screen."""
+        """Left, top, width, height on the screen, in the program's own pixels: Qt reports places without the factor by
+        which it enlarges a program."""
         place = self._accessible.get_component_iface().get_extents(_atspi.CoordType.SCREEN)
         return place.x, place.y, place.width, place.height
 

@@ -20,8 +20,8 @@ with Tour("board") as tour:
     board = tour.find("list", "Board")
     moved = tour.wait_until(lambda: tour.all("list item", within=board), "the cards")[0]
     left, top, width, height = moved.rectangle
-    tour.drag(moved, by=(637, 311))
-    tour.wait_until(lambda: moved.rectangle == (left + 637, top + 311, width, height), "the card to lie where it was put")
+    tour.drag(moved, by=(636, 310))
+    tour.wait_until(lambda: moved.rectangle == (left + 636, top + 310, width, height), "the card to lie where it was put")
     tour.picture("dragged")
 
     with tour.listen() as ear:

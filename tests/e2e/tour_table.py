@@ -50,6 +50,7 @@ def drop_on_row(tour, table, database, picture):
     before = tour.contents(database)
     name = list(tour.card_labels(database))[ROW_WITH_DROP - 1]
     x, y = first_cell(tour, table).centre
+    tour.drop_file(picture, (x + 160, y), "refused")  # beside the pictures
     tour.drop_file(picture, (x + 60, y + 60 * (ROW_WITH_DROP - 1)))
     tour.wait_until(lambda: (database / f"{name}.bmp").read_bytes()[54:] == picture.read_bytes()[54:],
                     "the picture to be the card's")

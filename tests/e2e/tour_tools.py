@@ -91,6 +91,15 @@ def venn(tour, monsters):
             tour.check(inside == holds, f"{monster[NAME]} lies at {x}, {y}, and {title}: {holds}")
 
 
+def opens_where_it_did(tour):
+    places = []
+    for _ in range(2):
+        tour.choose("Data", "Sort...")
+        places.append(tour.dialog("Sort Cards").rectangle)
+        tour.answer("Sort Cards", "Cancel")
+    tour.check(places[0] == places[1], f"the dialog opened at {places}")
+
+
 def sort(tour, monsters):
     tour.choose("Data", "Sort...")
     dialog = tour.dialog("Sort Cards")
@@ -138,6 +147,7 @@ with Tour("tools") as tour:
     before = tour.contents(database)
     tour.start()
     tour.open_last()
+    opens_where_it_did(tour)
     for tool in (find, venn, sort, group, arrange):
         tool(tour, monsters)
     tour.check_same(before, tour.contents(database))
