@@ -10,8 +10,7 @@ using namespace Qt::StringLiterals;
 
 void layOutTool(AnswerDialog& dialog, const ToolCaption& caption, QLayout* middle)
 {
-    auto* DiBoxCaption = named(words(caption.caption), "heading");
-    DiBoxCaption->setProperty("controlName", u"DiBoxCaption"_s);
+    auto* DiBoxCaption = named(words(caption.caption, "heading"), "DiBoxCaption");
 
     auto* top = new QHBoxLayout;
     top->addWidget(pictureLabel(caption.picture, {48, 48}));

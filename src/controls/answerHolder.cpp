@@ -73,21 +73,20 @@ void AnswerHolder::setAnswers(const QStringList& texts)
     }
 }
 
-void AnswerHolder::toggle(QPushButton& button, const QStringList& texts, const QRect& box,
-                          const std::function<void(const QString&)>& pick)
+void AnswerHolder::toggle(QPushButton& button, const Question& question)
 {
     if (isVisible() && owner == &button) {
         hide();
         return;
     }
     owner = &button;
-    picked = pick;
-    setAnswers(texts);
-    lieBeside(box);
+    picked = question.picked;
+    setAnswers(question.answers);
+    lieBeside(question.box);
     raise();
     show();
-    possAnswer.first()->setFocus();
-    light(possAnswer.first());
+    const auto present = question.present.isEmpty() ? -1 : answers.indexOf(question.present);
+    focusLine(possAnswer[std::max<qsizetype>(present, 0)]);
 }
 
 void AnswerHolder::lieBeside(const QRect& box)
@@ -156,6 +155,12 @@ void AnswerHolder::moveFocus(QPushButton* from, int by)
     const auto to = possAnswer.indexOf(from) + by;
     if (to < 0 || to >= possAnswer.size())
         return;
-    possAnswer[to]->setFocus();
-    findChild<QScrollArea*>()->ensureWidgetVisible(possAnswer[to], 0, 0);
+    focusLine(possAnswer[to]);
+}
+
+void AnswerHolder::focusLine(QPushButton* line)
+{
+    line->setFocus();
+    light(line); // in a window that isn't active no focus event comes
+    findChild<QScrollArea*>()->ensureWidgetVisible(line, 0, 0);
 }

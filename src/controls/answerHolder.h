@@ -21,12 +21,18 @@ public:
     /// The twelve answers, items 0..11; missing ones are blank lines.
     void setAnswers(const QStringList& texts);
 
-    /// Opens the list of `button`, with these answers and the focus, or closes it when it is open already. It
-    /// is as wide as `box` (in the parent's pixels) and below it, or above it if there is more room. Choosing
-    /// a line closes the list and calls `picked` with the answer. Closing it gives `button` the focus, except
-    /// by putAway().
-    void toggle(QPushButton& button, const QStringList& texts, const QRect& box,
-                const std::function<void(const QString& answer)>& picked);
+    /// A value for which the list is opened. `box` is its place in the parent's pixels.
+    struct Question {
+        QStringList answers;
+        QString present; // the value now
+        QRect box;
+        std::function<void(const QString& answer)> picked;
+    };
+
+    /// Opens the list of `button` with the focus on the present value, or closes it when it is open already.
+    /// It is as wide as the box and below it, or above it if there is more room. Choosing a line closes the
+    /// list and calls `picked` with the answer. Closing it gives `button` the focus, except by putAway().
+    void toggle(QPushButton& button, const Question& question);
 
     /// Closes the list without moving the focus.
     void putAway();
@@ -39,6 +45,7 @@ private:
     void lieBeside(const QRect& box);
     void light(QPushButton* line);
     void moveFocus(QPushButton* from, int by);
+    void focusLine(QPushButton* line);
 
     QList<QPushButton*> possAnswer; // 0..11 for answers 1..12
     QStringList answers;

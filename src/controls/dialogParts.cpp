@@ -80,12 +80,13 @@ void chainTabs(std::initializer_list<QWidget*> controls)
     }
 }
 
-QLayout* answerRow(QWidget* answers, QWidget* video)
+QLayout* answerRow(QWidget* answers, QWidget* help)
 {
     auto* row = new QHBoxLayout;
-    row->addWidget(answers);
+    if (help)
+        row->addWidget(help);
     row->addStretch(1);
-    row->addWidget(video);
+    row->addWidget(answers);
     return row;
 }
 

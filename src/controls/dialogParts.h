@@ -50,8 +50,9 @@ void letTabFindTheChosen(std::initializer_list<QAbstractButton*> options);
 /// Sets the Tab order: each control leads to the next.
 void chainTabs(std::initializer_list<QWidget*> controls);
 
-/// The lowest line of a dialog: the answers on the left, the video on the right.
-QLayout* answerRow(QWidget* answers, QWidget* video);
+/// The lowest line of a dialog, the same in all: the video or other help on the left, the answers on the
+/// right.
+QLayout* answerRow(QWidget* answers, QWidget* help = nullptr);
 
 /// "Watch a video": starts the tutorial of that name, ignoring any error.
 QPushButton* videoButton(const QString& tutorial = QStringLiteral("Entering Data"));

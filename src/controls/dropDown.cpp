@@ -4,6 +4,8 @@
 #include <QKeyEvent>
 #include <QLayout>
 #include <QScreen>
+#include <QStyleOption>
+#include <QStylePainter>
 #include <QStyledItemDelegate>
 
 namespace {
@@ -52,6 +54,22 @@ void DropDown::showPopup()
     for (int pass = 0; pass < 3 && view()->isVisible(); ++pass)
         growTo(height, *view());
     view()->scrollTo(view()->currentIndex());
+}
+
+void DropDown::paintEvent(QPaintEvent* event)
+{
+    const bool blank = currentIndex() >= 0 && currentText().trimmed().isEmpty();
+    if (!blank) {
+        QComboBox::paintEvent(event);
+        return;
+    }
+    QStylePainter painter(this);
+    QStyleOptionComboBox option;
+    initStyleOption(&option);
+    option.currentText = placeholderText();
+    option.palette.setBrush(QPalette::ButtonText, option.palette.placeholderText());
+    painter.drawComplexControl(QStyle::CC_ComboBox, option);
+    painter.drawControl(QStyle::CE_ComboBoxLabel, option);
 }
 
 void DropDown::keyPressEvent(QKeyEvent* event)

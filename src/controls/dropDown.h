@@ -16,6 +16,8 @@ public:
     void showPopup() override;
 
 protected:
+    /// A blank choice shows the placeholder, as no choice does.
+    void paintEvent(QPaintEvent* event) override;
     /// Keeps a Return that has picked an entry from also pressing the dialog's OK.
     void keyPressEvent(QKeyEvent* event) override;
 };

@@ -4,6 +4,7 @@
 #include "platform/owningWindow.h"
 
 #include <QDialog>
+#include <QScreen>
 #include <QWindow>
 
 #include <vector>
@@ -42,13 +43,36 @@ void unloadAllForms()
 
 std::function<void(QDialog&)> modalLoop = [](QDialog& dialog) { dialog.exec(); };
 
+namespace {
+
+/// Puts the dialog in the middle of its owner. Left to itself it would open elsewhere the second time, when
+/// its frame is known.
+void centre(QDialog& dialog, const QWidget& owner)
+{
+    if (!dialog.testAttribute(Qt::WA_Resized))
+        dialog.adjustSize();
+    const QRect room = owner.screen()->availableGeometry();
+    QRect place({}, dialog.size());
+    place.moveCenter(owner.geometry().center());
+    dialog.move(std::max(room.left(), std::min(place.left(), room.right() + 1 - place.width())),
+                std::max(room.top(), std::min(place.top(), room.bottom() + 1 - place.height())));
+}
+
+} // namespace
+
 void showModal(QDialog& dialog)
 {
+    const QPointer<QDialog> shown(&dialog);
+    const bool placesItself = dialog.testAttribute(Qt::WA_Moved);
     if (const QWidget* owner = owningWindow(&dialog)) {
         dialog.winId(); // makes its window
         dialog.windowHandle()->setTransientParent(owner->windowHandle());
+        if (!placesItself)
+            centre(dialog, *owner);
     }
     modalLoop(dialog);
+    if (shown)
+        shown->setAttribute(Qt::WA_Moved, placesItself);
 }
 
 QString ask(QDialog& dialog)

@@ -98,6 +98,9 @@ FileForm::FileForm()
         leave(u"OK"_s);
     });
     onClick(answers->cancel, [this] { leave(u"Cancel"_s); });
+    connect(SelectedFnameBox, &QLineEdit::textChanged, this,
+            [this](const QString& name) { answers->ok->setEnabled(!name.isEmpty()); });
+    answers->ok->setEnabled(false);
     connect(Fslide, &QSlider::valueChanged, this, [this](int first) {
         guarded([&] {
             walk.setFirst(first);
@@ -210,6 +213,7 @@ void FileForm::showPlace()
 void FileForm::showIcons()
 {
     wish = Wish::none;
+    chosenPath.clear();
     SelectedFnameBox->clear();
     for (int slot = 0; slot < FolderWalk::slotCount; ++slot)
         showSlot(slot);
@@ -222,7 +226,7 @@ void FileForm::showSlot(int slot)
     QLabel* name = fileNameBox[slot];
     icon->setVisible(!item.tag.isEmpty());
     name->setVisible(!item.tag.isEmpty());
-    icon->setChecked(false);
+    icon->setChecked(!chosenPath.isEmpty() && item.path == chosenPath);
     if (item.tag.isEmpty())
         return;
     icon->setIcon(iconOf(item));
@@ -255,13 +259,21 @@ void FileForm::placeRefused(int error)
     }
 }
 
+/// A database or file becomes the chosen one, which is highlighted and which OK opens. A folder or drive
+/// can't be chosen: after a click on one the chosen item stays highlighted.
 void FileForm::select(int slot)
 {
     const WalkItem& item = walk.item(slot);
-    for (int other = 0; other < FolderWalk::slotCount; ++other)
-        iconBox[other]->setChecked(other == slot);
-    if (item.tag == "tdb"_L1 || item.tag == "File"_L1)
+    if (item.tag == "tdb"_L1 || item.tag == "File"_L1) {
         SelectedFnameBox->setText(QFileInfo(item.path).fileName());
+        chosenPath = item.path;
+    }
+    for (int other = 0; other < FolderWalk::slotCount; ++other) {
+        const bool chosen = !chosenPath.isEmpty() && walk.item(other).path == chosenPath;
+        iconBox[other]->setChecked(chosen);
+        if (chosen && item.certain)
+            iconBox[other]->setFocus(); // its frame would make a clicked folder look chosen
+    }
     wishedPath = item.path;
     wish = item.certain ? Wish::none : Wish::select;
 }
@@ -290,11 +302,11 @@ void FileForm::browse()
 {
     const QString folderFound = desktop.files.chooseFolder(u"Browse for a Database"_s, walk.folder());
     F1 = folderFound.isEmpty() ? u"0"_s : u"1"_s;
-    if (!folderFound.isEmpty()) {
-        chosenFile = folderFound;
-        if (!folderFound.startsWith(u'('))
-            walk.setFolder(folderFound);
-    }
+    if (folderFound.isEmpty())
+        return; // the dialog stays as it was
+    chosenFile = folderFound;
+    if (!folderFound.startsWith(u'('))
+        walk.setFolder(folderFound);
     leave(u"DBOK"_s);
 }
 

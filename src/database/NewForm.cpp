@@ -149,7 +149,7 @@ QLayout* NewForm::buttonRow()
     BtnVid->setMenu(menu);
     BtnVid->setPopupMode(QToolButton::MenuButtonPopup);
     BtnVid->setText(u"&Help"_s);
-    BtnVid->setIcon(QIcon(picturePath(u"video"_s)));
+    BtnVid->setIcon(QIcon(picturePath(u"welcomeVideo"_s)));
     BtnVid->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     BtnVid->setFocusPolicy(Qt::StrongFocus);
 

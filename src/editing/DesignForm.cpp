@@ -20,7 +20,7 @@ namespace {
 
 constexpr int rowsInColumn = 6;
 constexpr int partsOfRow = 6; // the last part is a gap
-constexpr int nameWidth = 130;
+constexpr int nameWidth = 110;
 constexpr int columnGap = 16;
 
 QPushButton* stepButton(const char* name, const QString& icon, const QString& meaning)
@@ -58,7 +58,7 @@ DesignForm::DesignForm()
     auto* grid = new QGridLayout(this);
     grid->setContentsMargins(16, 12, 16, 12);
     grid->setColumnStretch(0, 1);
-    grid->setHorizontalSpacing(20);
+    grid->setHorizontalSpacing(14);
     grid->setVerticalSpacing(12);
     grid->addLayout(side, 0, 1);
     grid->addWidget(rows, 0, 0);

@@ -174,8 +174,22 @@ QString FieldForm::chosenType() const
     return {};
 }
 
+/// Return in the list begins a new line: the box below the watched one gets the focus.
+bool FieldForm::beginsLine(const QObject* watched, const QEvent& event)
+{
+    if (event.type() != QEvent::KeyPress ||
+        !static_cast<const QKeyEvent&>(event).matches(QKeySequence::InsertParagraphSeparator))
+        return false;
+    const auto box = std::find(possAnswer.begin(), possAnswer.end(), watched);
+    if (box != possAnswer.end() && box + 1 != possAnswer.end())
+        (*(box + 1))->setFocus();
+    return true;
+}
+
 bool FieldForm::eventFilter(QObject* watched, QEvent* event)
 {
+    if (beginsLine(watched, *event))
+        return true;
     if (!refuses(*event))
         return AnswerDialog::eventFilter(watched, event);
     if (event->type() == QEvent::InputMethod) {

@@ -38,6 +38,7 @@ private:
     void connectControls();
     void offerList(bool offered);
     QString chosenType() const;
+    bool beginsLine(const QObject* watched, const QEvent& event);
     bool refuses(QEvent& event) const;
 };
 

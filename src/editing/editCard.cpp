@@ -7,6 +7,7 @@
 #include "controls/pucTextTip.h"
 #include "core/mainView.h"
 #include "editing/cardEntry.h"
+#include "platform/desktop.h"
 #include "platform/pictureFile.h"
 #include "platform/values.h"
 #include "store/options.h"
@@ -21,8 +22,12 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int rowsInColumn = 6;
-constexpr int partsOfRow = 3;  // label, box, button
-constexpr int nameWidth = 140; // of a field's label
+constexpr int partsOfRow = 3;  // label, box with its button, gap
+constexpr int nameWidth = 116; // of a field's label
+constexpr int rowHeight = 36;
+constexpr int moreHeight = 48;   // where the screen has room: the rows then stand further apart
+constexpr int aroundWindow = 24; // of the screen's height, for the window's frame
+constexpr int columnGap = 14;    // after the first six fields
 constexpr QSize monitorSize(193, 150);
 constexpr QPoint screenOfMonitor(16, 14);
 constexpr int answerHeight = 36; // of one line
@@ -64,6 +69,7 @@ editCard::editCard()
 
     auto* video = videoButton();
     auto* rows = new QVBoxLayout(this);
+    rows->setSpacing(4);
     rows->addLayout(pictureRow());
     rows->addWidget(FTab1);
     auto* pages = new QGridLayout; // the cover is on top of the fields
@@ -96,9 +102,10 @@ QWidget* editCard::fieldRows()
     auto* grid = new QGridLayout(fields);
     grid->setContentsMargins({});
     grid->setHorizontalSpacing(6);
-    grid->setVerticalSpacing(5);
+    grid->setVerticalSpacing(2);
     for (int f = 1; f <= lastField; ++f)
         addFieldRow(*grid, f);
+    grid->setColumnMinimumWidth(partsOfRow - 1, columnGap);
     return fields;
 }
 
@@ -110,14 +117,18 @@ void editCard::addFieldRow(QGridLayout& grid, int f)
     DataBox[f] = element(new QLineEdit, "DataBox", f);
     pullDownBut[f] = element(iconButton(u"pullDown"_s), "pullDownBut", f);
     keepPlaceWhenHidden(*pullDownBut[f]); // keeps the boxes aligned
+    auto* boxAndButton = new QHBoxLayout; // which touch, to be seen as one
+    boxAndButton->setSpacing(0);
+    boxAndButton->addWidget(DataBox[f], 1);
+    boxAndButton->addWidget(pullDownBut[f]);
 
     const int row = (f - 1) % rowsInColumn;
-    int column = (f - 1) / rowsInColumn * partsOfRow;
+    const int column = (f - 1) / rowsInColumn * partsOfRow;
     grid.setColumnStretch(column, 1);
     grid.setColumnStretch(column + 1, 2);
-    for (QWidget* part : std::initializer_list<QWidget*>{fieldName[f], DataBox[f], pullDownBut[f]})
-        grid.addWidget(part, row, column++);
-    grid.setRowMinimumHeight(row, pullDownBut[f]->sizeHint().height()); // also while the row is hidden
+    grid.addWidget(fieldName[f], row, column);
+    grid.addLayout(boxAndButton, row, column + 1);
+    grid.setRowMinimumHeight(row, rowHeight); // also while the row is hidden
 }
 
 void editCard::connectControls()
@@ -153,6 +164,8 @@ void editCard::load()
     const double soundStatus = leadingNumber(read(option::sound));
     if (soundStatus == 0)
         FTab1->hide();
+    const int room = desktop.screen.size().height() - aroundWindow;
+    resize(sizeHint().width(), std::min(sizeHint().height() + moreHeight, room));
 }
 
 void editCard::showCard()
@@ -203,8 +216,8 @@ void editCard::toggleAnswers(int f)
         ready.append(session.fieldListItem[f][j]);
     const QRect box(DataBox[f]->mapTo(this, QPoint()),
                     pullDownBut[f]->mapTo(this, pullDownBut[f]->rect().bottomRight()));
-    Answers->toggle(*pullDownBut[f], ready, box,
-                    [this, f](const QString& answer) { DataBox[f]->setText(answer); });
+    Answers->toggle(*pullDownBut[f], {ready, DataBox[f]->text(), box,
+                                      [this, f](const QString& answer) { DataBox[f]->setText(answer); }});
 }
 
 void editCard::testLock()

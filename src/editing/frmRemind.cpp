@@ -29,7 +29,7 @@ frmRemind::frmRemind()
     grid->addWidget(pictureLabel(u"remind"_s, {96, 96}), 0, 0, 2, 1, Qt::AlignTop);
     grid->addWidget(Label1, 0, 1);
     grid->addWidget(ChkRemind, 1, 1);
-    grid->addWidget(answers, 2, 0, 1, 2, Qt::AlignHCenter);
+    grid->addLayout(answerRow(answers), 2, 0, 1, 2);
 
     onClick(answers->ok, [this] {
         setReminderWanted(!ChkRemind->isChecked());

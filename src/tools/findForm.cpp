@@ -7,6 +7,7 @@
 #include "platform/desktop.h"
 #include "platform/errors.h"
 #include "platform/picture.h"
+#include "platform/values.h"
 #include "tools/conditions.h"
 
 #include <QCheckBox>
@@ -30,8 +31,9 @@ constexpr JoinHeights heights[] = {{5500, heightOfOneRow}, {6500, 6300}};
 constexpr int windowWidth = 692;
 constexpr int margin = 20;
 constexpr int controlHeight = 44;
-constexpr int rowTops[] = {72, 252, 372};
-constexpr int joinTops[] = {190, 314};
+constexpr int rowTops[] = {64, 176, 288};
+constexpr int joinTops[] = {120, 232};
+constexpr int belowAnswers = 12; // from OK and Cancel to the window's lower edge
 constexpr int answerLineHeight = 30;
 constexpr int answersInView = 4;
 
@@ -49,6 +51,7 @@ findForm::findForm()
     : AnswerDialog(new AnswerButtons({"YesBut", u"OK"_s}, {"NoBut", u"Cancel"_s}))
     , vennTick(named(new QCheckBox(u"Make a &Venn Diagram"_s, this), "vennTick"))
     , Logo2(pictureLabel(u"venn"_s, {64, 48}))
+    , BtnVid(videoButton())
     , answerHolder(new AnswerHolder(this, answerLineHeight, answersInView))
 {
     setObjectName(u"findForm"_s);
@@ -99,6 +102,7 @@ QComboBox* findForm::dropDown(const char* group, int number, const QString& mean
 void findForm::makeJoin(int join)
 {
     QComboBox* box = dropDown("andOr", join, ofCondition(u"Joining word"_s, join + 1));
+    box->setPlaceholderText(u"and / or"_s);
     andOr[join] = box;
     connect(box, &QComboBox::currentIndexChanged, this,
             [this, join] { guarded([=, this] { joinPicked(join); }); });
@@ -106,24 +110,19 @@ void findForm::makeJoin(int join)
 
 void findForm::layOut()
 {
-    auto* DiBoxCaption = named(words(u"Find"_s), "heading");
+    auto* DiBoxCaption = named(words(u"Find"_s, "heading"), "DiBoxCaption");
     DiBoxCaption->setParent(this);
-    DiBoxCaption->setGeometry(margin, 12, 200, 48);
-    answers->adjustSize();
-    answers->move(windowWidth - margin - answers->width(), 14);
+    DiBoxCaption->setGeometry(margin, 8, 200, 48);
     for (int row = 0; row < 3; ++row) {
         const Row& each = rows[row];
         each.fieldCombo->setGeometry(margin, rowTops[row], 200, controlHeight);
         each.compBox->setGeometry(228, rowTops[row], 168, controlHeight);
-        each.valBox->setGeometry(404, rowTops[row], 220, controlHeight);
+        each.valBox->setGeometry(404, rowTops[row], 224, controlHeight);
         each.pullDownBut->setGeometry(628, rowTops[row], controlHeight, controlHeight);
     }
     for (int join = 0; join < 2; ++join)
-        andOr[join]->setGeometry(margin, joinTops[join], 112, controlHeight);
-    QPushButton* BtnVid = videoButton();
+        andOr[join]->setGeometry(margin, joinTops[join], 140, controlHeight);
     BtnVid->setParent(this);
-    BtnVid->adjustSize();
-    BtnVid->move(windowWidth - margin - BtnVid->width(), joinTops[0]);
     Logo2->setParent(this);
     Logo2->setGeometry(228, joinTops[1] - 2, 64, 48);
     vennTick->setGeometry(300, joinTops[1], 320, controlHeight);
@@ -131,6 +130,16 @@ void findForm::layOut()
                andOr[0], rows[1].fieldCombo, rows[1].compBox, rows[1].valBox, rows[1].pullDownBut, andOr[1],
                vennTick, rows[2].fieldCombo, rows[2].compBox, rows[2].valBox, rows[2].pullDownBut, BtnVid,
                answers->ok, answers->cancel});
+}
+
+/// The lowest line, as in every dialog: the video on the left, OK and Cancel on the right.
+void findForm::placeAnswers()
+{
+    for (QWidget* part : std::initializer_list<QWidget*>{BtnVid, answers}) {
+        part->adjustSize();
+        part->move(part == BtnVid ? margin : width() - margin - part->width(),
+                   height() - belowAnswers - part->height());
+    }
 }
 
 void findForm::prepare()
@@ -183,7 +192,7 @@ void findForm::valueTyped(int row)
 {
     const Row& each = rows[row];
     if (each.compBox->itemText(0) == "="_L1) {
-        const QString kept = filterNumeric(each.valBox->text());
+        const QString kept = filterNumeric(withDecimalPoints(each.valBox->text()));
         if (kept != each.valBox->text())
             each.valBox->setText(kept); // calls this function again with the accepted text
     }
@@ -196,8 +205,9 @@ void findForm::toggleAnswers(int row)
     QStringList listed;
     for (int j = 1; j <= lastAnswer; ++j)
         listed.append(session.fieldListItem[fieldOf(row)][j]);
-    answerHolder->toggle(*each.pullDownBut, listed, each.valBox->geometry() | each.pullDownBut->geometry(),
-                         [each](const QString& answer) { each.valBox->setText(answer); });
+    answerHolder->toggle(*each.pullDownBut,
+                         {listed, each.valBox->text(), each.valBox->geometry() | each.pullDownBut->geometry(),
+                          [each](const QString& answer) { each.valBox->setText(answer); }});
 }
 
 void findForm::joinPicked(int join)
@@ -209,6 +219,8 @@ void findForm::joinPicked(int join)
     showRow(join + 1, joins(box));
     takeHeight(joins(box) ? heights[join].joined : heights[join].alone);
     const bool offered = session.andOr[0] == "and"_L1 && session.andOr[1] == " "_L1;
+    if (!offered)
+        vennTick->setChecked(false); // a tick out of sight must not make a Venn diagram
     vennTick->setVisible(offered);
     Logo2->setVisible(offered);
 }
@@ -224,21 +236,23 @@ void findForm::takeHeight(int twips)
 {
     setFixedSize(windowWidth, twips / session.twipsPerPixelY);
     move(x(), (desktop.screen.size().height() - height()) / 2);
+    placeAnswers();
     showWhatFits();
 }
 
-/// What lies below the window's edge keeps its state, but is hidden from keyboard and screen readers too.
+/// What has no room above OK and Cancel keeps its state, but is hidden from keyboard and screen readers too.
 void findForm::showWhatFits()
 {
+    const auto fits = [this](int top) { return top + controlHeight <= answers->y(); };
     for (int row = 0; row < 3; ++row) {
         const Row& each = rows[row];
-        const bool inView = rowShown[row] && rowTops[row] < height();
+        const bool inView = rowShown[row] && fits(rowTops[row]);
         for (QWidget* control : std::initializer_list<QWidget*>{each.fieldCombo, each.compBox, each.valBox})
             control->setVisible(inView);
         each.pullDownBut->setVisible(inView && session.fieldUseList[fieldOf(row)]);
     }
     for (int join = 0; join < 2; ++join)
-        andOr[join]->setVisible(joinTops[join] < height());
+        andOr[join]->setVisible(fits(joinTops[join]));
 }
 
 void findForm::mousePressEvent(QMouseEvent* event)

@@ -36,6 +36,7 @@ private:
     void makeRow(int row);
     void makeJoin(int join);
     void layOut();
+    void placeAnswers();
     void fillCompBox(int row);
     void fieldPicked(int row);
     void valueTyped(int row);
@@ -51,5 +52,6 @@ private:
     std::array<QComboBox*, 2> andOr{};
     QCheckBox* const vennTick;
     QLabel* const Logo2;
+    QPushButton* const BtnVid;
     AnswerHolder* const answerHolder;
 };

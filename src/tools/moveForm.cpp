@@ -21,7 +21,7 @@ constexpr QSize previewSize(280, 192);
 } // namespace
 
 moveForm::moveForm()
-    : AnswerDialog(new AnswerButtons)
+    : AnswerDialog(new AnswerButtons({"YesBut", u"OK"_s}, {"NoBut", u"Cancel"_s}))
     , moveCombo(named(new DropDown, "moveCombo"))
     , preview(named(new QFrame, "preview"))
 {

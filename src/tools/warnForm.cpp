@@ -18,29 +18,35 @@ constexpr int leastWidth = 4275; // twips
 constexpr int captionGap = 8;    // pixels
 constexpr int captionMargin = 28;
 constexpr int edge = 20;
+constexpr int betweenAnswers = 24; // around the middle of the window
 
 } // namespace
 
 warnForm::warnForm()
     : AnswerDialog(new AnswerButtons({"YesBut", u"Yes"_s}, {"NoBut", u"No"_s}))
     , ActionPic(named(new QLabel, "ActionPic"))
-    , DiBoxCaption(named(new QLabel(u"Delete this card?"_s), "subHeading"))
+    , DiBoxCaption(named(words(u"Delete this card?"_s, "subHeading"), "DiBoxCaption"))
 {
     setObjectName(u"warnForm"_s);
     setWindowTitle(u"Delete Card"_s);
-    DiBoxCaption->setTextFormat(Qt::PlainText);
+    DiBoxCaption->setWordWrap(false);
     answers->cancel->setDefault(true); // an accidental Return doesn't delete the card
 
     auto* question = new QHBoxLayout;
     question->setSpacing(captionGap);
+    question->setContentsMargins(0, 0, captionMargin - edge, 0);
     question->addWidget(ActionPic);
     question->addWidget(DiBoxCaption, 1);
+    answers->layout()->setSpacing(betweenAnswers);
+    const int answerWidth = std::max(answers->ok->sizeHint().width(), answers->cancel->sizeHint().width());
+    for (QPushButton* button : {answers->ok, answers->cancel})
+        button->setFixedWidth(answerWidth);
     auto* buttons = new QHBoxLayout;
     buttons->addStretch(1);
     buttons->addWidget(answers);
     buttons->addStretch(1);
     auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(edge, edge, captionMargin, edge);
+    column->setContentsMargins(edge, edge, edge, edge);
     column->setSpacing(edge);
     column->addLayout(question);
     column->addLayout(buttons);

@@ -14,7 +14,7 @@ ExitForm::ExitForm()
     setWindowTitle(u"Exit"_s);
     auto* column = new QVBoxLayout(this);
     column->addWidget(words(u"Exit ?"_s, "heading"));
-    column->addWidget(answers);
+    column->addLayout(answerRow(answers));
     onClick(answers->ok, [this] {
         answer(u"OK"_s);
         ignoringErrors({shutDown});

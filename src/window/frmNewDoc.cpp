@@ -48,11 +48,7 @@ frmNewDoc::frmNewDoc()
     grid->addWidget(words(u"Please make a selection from the list below..."_s, "subHeading"), 1, 1);
     grid->addWidget(choices(), 2, 1);
     auto* video = videoButton(QLatin1String(overview));
-    auto* lowest = new QHBoxLayout;
-    lowest->addWidget(video);
-    lowest->addStretch();
-    lowest->addWidget(answers);
-    grid->addLayout(lowest, 3, 0, 1, 2);
+    grid->addLayout(answerRow(answers, video), 3, 0, 1, 2);
     grid->setRowStretch(2, 1);
     orderKeys(video);
     answers->ok->setEnabled(false); // until an option is chosen

@@ -1,5 +1,6 @@
 #include "window/startUp.h"
 
+#include "controls/dialogFocus.h"
 #include "controls/forms.h"
 #include "controls/returnInLists.h"
 #include "platform/desktop.h"
@@ -34,6 +35,7 @@ void dressApplication()
     if (sheet.open(QIODevice::ReadOnly))
         qApp->setStyleSheet(QString::fromUtf8(sheet.readAll()));
     keepReturnInLists();
+    keepFocusInDialogs();
 }
 
 } // namespace

@@ -117,11 +117,13 @@ TEST_F(ChoosingADatabase, OKTakesWhatIsChosenAndNothingElse)
     EXPECT_EQ(chosen([](FileForm& files) {
                   QTest::mouseClick(icon(files, "folder", "class 1"), Qt::LeftButton);
                   EXPECT_EQ(files.SelectedFnameBox->text(), QString());
-                  click(files, "OKbut");
-                  EXPECT_TRUE(files.isVisible());
+                  EXPECT_FALSE(files.answers->ok->isEnabled());
                   icon(files, "database", "zoo");
                   QTest::mouseClick(files.fileNameBox[2], Qt::LeftButton);
                   EXPECT_EQ(files.SelectedFnameBox->text(), u"zoo"_s);
+                  QTest::mouseClick(icon(files, "folder", "class 1"), Qt::LeftButton);
+                  EXPECT_TRUE(files.iconBox[2]->isChecked() && !files.iconBox[0]->isChecked());
+                  EXPECT_TRUE(files.iconBox[2]->hasFocus());
                   click(files, "OKbut");
                   EXPECT_FALSE(files.isVisible());
               }),
@@ -186,13 +188,21 @@ TEST_F(ChoosingADatabase, TheSliderMovesByOneItem)
     });
 }
 
-TEST_F(ChoosingADatabase, TheSystemsChooserAnswersEvenWhenNothingWasChosen)
+TEST_F(ChoosingADatabase, TheSystemsChooserAnswersOnlyWhenAFolderWasChosen)
 {
     recorded.chosen = {testFolder() + u"home/class 1"_s, QString()};
     const auto browse = [](FileForm& files) { click(files, "StdDiBoxBut"); };
     EXPECT_EQ(chosen(browse), u"home/class 1"_s);
     EXPECT_EQ(session.dialogResult, u"DBOK"_s);
-    EXPECT_EQ(chosen(browse), u"home"_s);
+    EXPECT_EQ(chosen([&](FileForm& files) {
+                  doubleClick(files, "folder", "class 2");
+                  QTest::mouseClick(icon(files, "database", "pets"), Qt::LeftButton);
+                  browse(files);
+                  EXPECT_EQ(files.F1, u"0"_s);
+                  EXPECT_TRUE(files.isVisible());
+                  click(files, "OKbut");
+              }),
+              u"home/class 2/pets"_s);
 }
 
 TEST_F(ChoosingADatabase, TheSettingsGiveTheWorkingFolderAndKeepPupilsInIt)

@@ -88,6 +88,10 @@ TEST_F(FieldDetails, IsWholeOnASmallScreenAndEveryAnswerIsReachedByKeys)
             EXPECT_FALSE(dialog.possAnswer[item]->accessibleName().isEmpty());
             QTest::keyClick(dialog.focusWidget(), Qt::Key_Tab);
         }
-        dialog.possAnswer[1]->setFocus();
+        dialog.possAnswer[11]->setFocus();
+        for (int press = 1; press <= 2; ++press) // there is no line below the last one
+            QTest::keyClick(dialog.focusWidget(), Qt::Key_Return);
+        EXPECT_EQ(dialog.focusWidget(), dialog.possAnswer[12]);
+        EXPECT_TRUE(dialog.isVisible());
     });
 }

@@ -125,6 +125,8 @@ TEST_F(ToolForms, FindShowsItsRowsByTheWindowsHeight)
         pick(find, each.box, each.word);
         EXPECT_EQ(find.height(), each.height) << each.box << each.word;
         EXPECT_EQ(part<QCheckBox>(find, "vennTick").isVisible(), each.venn) << each.box << each.word;
+        EXPECT_FALSE(session.vennTick) << "a tick that was hidden came back";
+        part<QCheckBox>(find, "vennTick").setChecked(each.venn);
         for (auto* control : find.findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly))
             EXPECT_TRUE(control->isHidden() || control->y() < each.height)
                 << control->objectName().toStdString();
