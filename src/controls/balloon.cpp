@@ -2,10 +2,9 @@
 
 #include <QCursor>
 #include <QEvent>
+#include <QTextDocument>
 #include <QToolTip>
 #include <QWidget>
-
-using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -43,9 +42,7 @@ void endHint() { QToolTip::hideText(); }
 
 QString plainHint(const QString& text)
 {
-    // Not Qt::convertFromPlainText(), whose paragraphs have an empty line above and below.
-    return text.isEmpty() ? QString()
-                          : u"<span>"_s + text.toHtmlEscaped().replace(u'\n', "<br>"_L1) + u"</span>"_s;
+    return text.isEmpty() ? QString() : Qt::convertFromPlainText(text, Qt::WhiteSpaceNormal);
 }
 
 QString hintInView() { return QToolTip::isVisible() ? QToolTip::text() : QString(); }

@@ -45,6 +45,8 @@ std::function<void(QDialog&)> modalLoop = [](QDialog& dialog) { dialog.exec(); }
 
 namespace {
 
+constexpr int titleBar = 28; // pixels above a dialog that stay on the screen
+
 /// Puts the dialog in the middle of its owner. Left to itself it would open elsewhere the second time, when
 /// its frame is known.
 void centre(QDialog& dialog, const QWidget& owner)
@@ -54,8 +56,9 @@ void centre(QDialog& dialog, const QWidget& owner)
     const QRect room = owner.screen()->availableGeometry();
     QRect place({}, dialog.size());
     place.moveCenter(owner.geometry().center());
-    dialog.move(std::max(room.left(), std::min(place.left(), room.right() + 1 - place.width())),
-                std::max(room.top(), std::min(place.top(), room.bottom() + 1 - place.height())));
+    place.moveLeft(std::max(room.left(), std::min(place.left(), room.right() + 1 - place.width())));
+    place.moveTop(std::max(room.top() + titleBar, std::min(place.top(), room.bottom() + 1 - place.height())));
+    dialog.setGeometry(place); // not move(), which counts the frame only once it is known
 }
 
 } // namespace

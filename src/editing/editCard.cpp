@@ -25,6 +25,7 @@ constexpr int rowsInColumn = 6;
 constexpr int partsOfRow = 3;  // label, box with its button, gap
 constexpr int nameWidth = 116; // of a field's label
 constexpr int rowHeight = 36;
+constexpr QMargins margins(11, 6, 11, 8);
 constexpr int moreHeight = 48;   // where the screen has room: the rows then stand further apart
 constexpr int aroundWindow = 24; // of the screen's height, for the window's frame
 constexpr int columnGap = 14;    // after the first six fields
@@ -70,6 +71,7 @@ editCard::editCard()
     auto* video = videoButton();
     auto* rows = new QVBoxLayout(this);
     rows->setSpacing(4);
+    rows->setContentsMargins(margins);
     rows->addLayout(pictureRow());
     rows->addWidget(FTab1);
     auto* pages = new QGridLayout; // the cover is on top of the fields

@@ -158,7 +158,6 @@ void findForm::prepare()
     }
     showRow(1, false);
     showRow(2, false);
-    move((desktop.screen.size().width() - windowWidth) / 2, y());
     vennTick->setChecked(false);
     session.vennTick = false;
     takeHeight(heightOfOneRow);
@@ -234,8 +233,11 @@ void findForm::showRow(int row, bool visible)
 /// Gives the window its new height and centres it again between the screen's upper and lower edge.
 void findForm::takeHeight(int twips)
 {
-    setFixedSize(windowWidth, twips / session.twipsPerPixelY);
-    move(x(), (desktop.screen.size().height() - height()) / 2);
+    const QSize screen = desktop.screen.size();
+    const QSize size(windowWidth, twips / session.twipsPerPixelY);
+    setFixedSize(size);
+    const QPoint corner((screen.width() - size.width()) / 2, (screen.height() - size.height()) / 2);
+    setGeometry({isVisible() ? QPoint(geometry().left(), corner.y()) : corner, size});
     placeAnswers();
     showWhatFits();
 }

@@ -21,6 +21,7 @@
 #include <QIcon>
 #include <QScreen>
 #include <QTimer>
+#include <QWindow>
 
 using namespace Qt::StringLiterals;
 
@@ -36,6 +37,17 @@ void dressApplication()
         qApp->setStyleSheet(QString::fromUtf8(sheet.readAll()));
     keepReturnInLists();
     keepFocusInDialogs();
+}
+
+/// On Wayland a dialog belongs to the main window, and gets the keyboard, only when that is on the screen
+/// already.
+void waitUntilOnScreen(const QWidget& window)
+{
+    constexpr int mostRounds = 100; // in case it isn't shown at all, as on a locked screen
+    QTimer round;
+    round.start(10); // ms
+    for (int i = 0; i < mostRounds && !window.windowHandle()->isExposed(); ++i)
+        desktop.waitForEvents();
 }
 
 } // namespace
@@ -75,5 +87,6 @@ void startUp()
     restored.moveCenter(QRect({}, desktop.screen.size()).center());
     window.setGeometry(restored);
     window.showMaximized();
+    waitUntilOnScreen(window);
     showModal(form<frmNewDoc>());
 }
