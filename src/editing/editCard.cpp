@@ -166,8 +166,6 @@ void editCard::load()
     const double soundStatus = leadingNumber(read(option::sound));
     if (soundStatus == 0)
         FTab1->hide();
-    const int room = desktop.screen.size().height() - aroundWindow;
-    resize(sizeHint().width(), std::min(sizeHint().height() + moreHeight, room));
 }
 
 void editCard::showCard()
@@ -178,6 +176,8 @@ void editCard::showCard()
     for (int f = 1; f <= session.numFields; ++f)
         DataBox[f]->setText(session.editor.DataBox[f]);
     layoutFieldBoxes();
+    const int room = desktop.screen.size().height() - aroundWindow;
+    resize(sizeHint().width(), std::min(sizeHint().height() + moreHeight, room));
     Cover->showOpening(!session.editor.cardSoundFound.isEmpty());
     DataBox[1]->setFocus();
 }
