@@ -196,6 +196,7 @@ struct EditorState {
     WorkPicture shrinkdummy{82, 62, {}, true}; // its size is kept after the editor closes
     QImage openedPicture;                      // what Picture1 showed when the card was opened
     QString cardSoundFound;                    // the sound file of the card in the editor; empty without one
+    QByteArray recording;                      // the last one, a wave file; empty before the first
 };
 
 struct DesignState {

@@ -8,6 +8,7 @@
 #include "core/session.h"
 #include "core/title.h"
 #include "database/loading.h"
+#include "editing/cardSound.h"
 #include "platform/desktop.h"
 #include "platform/fonts.h"
 #include "platform/values.h"
@@ -134,11 +135,12 @@ QString allowedValue(int f, const QString& text)
     return allowed;
 }
 
-bool keepCard()
+bool keepCard(bool withRecording)
 {
     const int card = session.selectedCard;
+    const QByteArray sound = withRecording ? lastRecording() : QByteArray();
     bool othersWereKept = false;
-    if (!withErrorBox([&] { othersWereKept = writeEditedCard(card); }))
+    if (!withErrorBox([&] { othersWereKept = writeEditedCard(card, sound); }))
         return false;
     ignoringErrors({
         [card] { drawCardFace(card); },

@@ -14,11 +14,11 @@ QString fittingValue(const QString& text);
 /// points.
 QString allowedValue(int f, const QString& text);
 
-/// OK in the editor: writes record and picture of the selected card as writeEditedCard() does, redraws its
-/// face, sets the answer "OK" and reloads all cards; a message says when another workstation's version was
-/// kept. False when the card can't be written, after an error box: the editor then stays open, so that
-/// nothing that was typed is lost.
-bool keepCard();
+/// OK in the editor: writes record and picture of the selected card as writeEditedCard() does, and the last
+/// recording as its sound when that is wanted and there is one; redraws its face, sets the answer "OK" and
+/// reloads all cards; a message says when another workstation's version was kept. False when the card can't
+/// be written, after an error box: the editor then stays open, so that nothing that was typed is lost.
+bool keepCard(bool withRecording = false);
 
 /// "Add Card...": puts a new card on the board and opens it in the editor; Cancel removes it again. A full
 /// database gets no new card: the board is shown.

@@ -8,13 +8,16 @@
 #include "core/mainView.h"
 #include "editing/cardEntry.h"
 #include "platform/desktop.h"
+#include "platform/picture.h"
 #include "platform/pictureFile.h"
 #include "platform/values.h"
 #include "store/options.h"
 
 #include <QCloseEvent>
 #include <QGridLayout>
+#include <QIcon>
 #include <QLineEdit>
+#include <QRadioButton>
 #include <QTabBar>
 
 using namespace Qt::StringLiterals;
@@ -34,6 +37,7 @@ constexpr QPoint screenOfMonitor(16, 14);
 constexpr int answerHeight = 36; // of one line
 constexpr int answersInView = 6;
 constexpr QSize tipSize(230, 110);
+constexpr QSize tabIcon(28, 28);
 
 pucTextTip* advice(const char* name, const QString& text)
 {
@@ -63,6 +67,7 @@ editCard::editCard()
     FTab1->addTab(u"Add/Edit &Sound"_s);
     FTab1->setTabToolTip(0, u"Card"_s);
     FTab1->setTabToolTip(1, u"Add/Edit Sound"_s);
+    FTab1->setIconSize(tabIcon);
     FTab1->setTabData(0, u"card"_s);
     FTab1->setTabData(1, u"addeditsound"_s);
     Timer2->setSingleShot(true);
@@ -141,6 +146,7 @@ void editCard::connectControls()
         onClick(pullDownBut[f], [this, f] { toggleAnswers(f); });
     }
     onClickLater(Picture1, [this] {
+        Cover->stopRecording(); // its light can't be seen from the picture editor
         mainView.openPictureEditor();
         Picture1->update();
     });
@@ -153,9 +159,12 @@ void editCard::connectControls()
         Cover->setVisible(tab == 1);
         fields->setVisible(tab != 1);
     });
+    connect(Cover, &SoundCover::recordingShown, this,
+            [this](bool on) { FTab1->setTabIcon(1, on ? QIcon(picturePath(u"lightOn"_s)) : QIcon()); });
     connect(Timer2, &QTimer::timeout, this, [this] { guarded([this] { testLock(); }); });
     onClick(answers->ok, [this] {
-        if (keepCard())
+        Cover->stopRecording();
+        if (keepCard(Cover->Option2->isChecked()))
             leave();
     });
     onClick(answers->cancel, [] { answerAndUnload<editCard>(u"Cancel"_s); });
@@ -233,6 +242,13 @@ void editCard::testLock()
 }
 
 void editCard::leave() { unload<editCard>(); }
+
+void editCard::hideEvent(QHideEvent* event)
+{
+    AnswerDialog::hideEvent(event);
+    if (!event->spontaneous())
+        guarded([this] { Cover->leave(); });
+}
 
 void editCard::closeEvent(QCloseEvent* event)
 {

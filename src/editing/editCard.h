@@ -39,6 +39,7 @@ public:
     QString txtDBLock;    // the setting that it read
 
 protected:
+    void hideEvent(QHideEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;

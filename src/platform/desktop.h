@@ -19,6 +19,15 @@ struct Volume {
     int kind = 0;
 };
 
+/// What the program's player and recorder do. Only one of them works at a time.
+enum class SoundActivity { none, playing, playingPaused, recording, recordingPaused };
+
+struct SoundProgress {
+    SoundActivity activity = SoundActivity::none;
+    qint64 recorded = 0; // milliseconds
+    double level = 0;    // of the sound being recorded: 0 silence, 1 the loudest
+};
+
 struct Desktop {
     struct Boxes {
         /// Shows a message box and waits until it is closed.
@@ -40,6 +49,8 @@ struct Desktop {
         /// The folder of the executable, where the settings file lies; no separator at its end.
         std::function<QString()> programFolder;
         std::function<QString()> documentsFolder;
+        /// A folder of the user's own for the program's files, made when it isn't there.
+        std::function<QString()> ownFolder;
         std::function<QList<Volume>()> volumes;
     };
 
@@ -47,6 +58,19 @@ struct Desktop {
         std::function<void()> beep;
         /// Starts to play a wave file and returns at once; a file that can't be played is ignored.
         std::function<void(const QString& path)> play;
+        /// The same for the bytes of one. Raises 57 when they are no wave file, 68 without a loudspeaker.
+        std::function<void(const QByteArray& waveFile)> playBack;
+        /// Starts to record with the microphone; what was recorded before is dropped. False when there is no
+        /// microphone. A recording ends by itself after ten minutes, when something is played, and when sound
+        /// server or microphone disappear.
+        std::function<bool()> record;
+        /// Holds what is recorded or played, or goes on with it.
+        std::function<void(bool paused)> pause;
+        /// Stops what is played or recorded. A recording can still be taken.
+        std::function<void()> stop;
+        /// Ends the recording and hands it out as a wave file; empty when nothing was recorded since.
+        std::function<QByteArray()> takeRecording;
+        std::function<SoundProgress()> progress;
     };
 
     struct Paper {

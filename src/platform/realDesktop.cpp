@@ -8,11 +8,12 @@
 #include "platform/picture.h"
 #include "platform/pictureChooser.h"
 #include "platform/roundPace.h"
-#include "platform/wavePlayer.h"
+#include "platform/soundDevices.h"
 
 #include <QApplication>
 #include <QClipboard>
 #include <QDesktopServices>
+#include <QDir>
 #include <QFileDialog>
 #include <QGuiApplication>
 #include <QMessageBox>
@@ -88,6 +89,13 @@ QString chooseFile(const QString& caption, const QString& startFolder, const QSt
     return chosenIn(dialog);
 }
 
+QString ownFolder()
+{
+    const QString folder = QStandardPaths::writableLocation(QStandardPaths::AppLocalDataLocation);
+    QDir().mkpath(folder);
+    return folder;
+}
+
 // What askForPrintersEarly() asked for; each answer is given once.
 std::future<QStringList> earlyNames;
 std::future<QString> earlyDefault;
@@ -158,10 +166,17 @@ void installDesktop()
     desktop.files.documentsFolder = [] {
         return QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
     };
+    desktop.files.ownFolder = ownFolder;
     desktop.files.volumes = drivesOfComputer;
 
     desktop.sound.beep = [] { QApplication::beep(); };
-    desktop.sound.play = playWaveFile;
+    desktop.sound.play = soundDevices::play;
+    desktop.sound.playBack = soundDevices::playBack;
+    desktop.sound.record = soundDevices::record;
+    desktop.sound.pause = soundDevices::pause;
+    desktop.sound.stop = soundDevices::stop;
+    desktop.sound.takeRecording = soundDevices::takeRecording;
+    desktop.sound.progress = soundDevices::progress;
 
     desktop.paper.printerNames = printerNames;
     desktop.paper.defaultPrinterName = defaultPrinterName;

@@ -100,6 +100,13 @@ void WavePlayer::stop()
     samples.close();
 }
 
+WavePlayer& wavePlayer()
+{
+    if (!filePlayer)
+        filePlayer = std::make_unique<WavePlayer>();
+    return *filePlayer;
+}
+
 void playWaveFile(const QString& path)
 {
     ignoringErrors({[&] {
@@ -107,9 +114,7 @@ void playWaveFile(const QString& path)
         if (!file.open(QIODevice::ReadOnly))
             return;
         const Wave wave = readWave(file.readAll());
-        if (!filePlayer)
-            filePlayer = std::make_unique<WavePlayer>();
-        filePlayer->play(wave);
+        wavePlayer().play(wave);
     }});
 }
 

@@ -41,6 +41,9 @@ private:
     std::unique_ptr<QAudioSink> sink;
 };
 
+/// The program's one player, made at the first call.
+WavePlayer& wavePlayer();
+
 /// Plays the wave file, stopping one that still plays. A file that can't be played is ignored.
 void playWaveFile(const QString& path);
 

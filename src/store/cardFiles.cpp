@@ -96,12 +96,14 @@ bool showCardPicture(const QByteArray& bytes)
     return withErrorBox([&bytes] { session.editor.Picture1.image = cardPicture(bytes); });
 }
 
-bool cardHasSound(int card) { return QFileInfo(cardFile(card, soundEnding)).isFile(); }
+QString cardSoundPath(int card) { return cardFile(card, soundEnding); }
+
+bool cardHasSound(int card) { return QFileInfo(cardSoundPath(card)).isFile(); }
 
 void playCardSound(int card)
 {
     if (cardHasSound(card))
-        desktop.sound.play(cardFile(card, soundEnding));
+        desktop.sound.play(cardSoundPath(card));
 }
 
 QStringList cardFilesOfOneRecord(const QString& cardId, const QString& recordName)

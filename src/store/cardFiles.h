@@ -33,6 +33,9 @@ QString cardRecordPath(int card);
 /// The path of the card's picture.
 QString cardPicturePath(int card);
 
+/// The path of the card's sound.
+QString cardSoundPath(int card);
+
 /// Loads the card's picture into `Picture1`; nothing when cards are strips. A failure is shown in the error
 /// box, and `Picture1` keeps its content.
 void loadCardPicture(int card);

@@ -109,6 +109,17 @@ Writing pictureWriting(int card)
     return picture;
 }
 
+Writing soundWriting(int card, const QByteArray& waveFile)
+{
+    const QString path = cardSoundPath(card);
+    const FileState now = stateToReplace(path);
+    Writing sound{path, waveFile};
+    sound.needed = now.error || now.bytes != waveFile;
+    sound.othersLost = now.error == 0 && now != knownState(path);
+    sound.keptFirst = sound.othersLost || (now.error == 0 && now.bytes.size() <= mostKeptBytes);
+    return sound;
+}
+
 void keepBefore(std::initializer_list<const Writing*> writings)
 {
     QStringList paths;
@@ -157,14 +168,24 @@ void saveCardPicture(int card)
     });
 }
 
-bool writeEditedCard(int card)
+void writeCardSound(int card, const QByteArray& waveFile)
+{
+    const Writing sound = soundWriting(card, waveFile);
+    keepBefore({&sound});
+    write(sound);
+}
+
+bool writeEditedCard(int card, const QByteArray& waveFile)
 {
     const Writing record = recordWriting(card);
-    const Writing picture = pictureNeeded(card) ? pictureWriting(card) : Writing{{}, {}, false};
-    keepBefore({&record, &picture});
+    const Writing none{{}, {}, false};
+    const Writing picture = pictureNeeded(card) ? pictureWriting(card) : none;
+    const Writing sound = waveFile.isEmpty() ? none : soundWriting(card, waveFile);
+    keepBefore({&record, &picture, &sound});
+    write(sound); // first, since it is the largest: a full disk then leaves the card as it was
     write(record);
     takeBoxes(card);
     labelTooltip(card);
     write(picture);
-    return (record.needed && record.othersLost) || picture.othersLost;
+    return (record.needed && record.othersLost) || picture.othersLost || (sound.needed && sound.othersLost);
 }

@@ -27,6 +27,11 @@ QByteArray readAndRemember(const QString& path, qint64 limit)
 
 FileState knownState(const QString& path) { return session.fileStates.value(path); }
 
+void forgetStates(QLatin1StringView ending)
+{
+    session.fileStates.removeIf([ending](const auto& state) { return state.key().endsWith(ending); });
+}
+
 FileState stateOnDisk(const QString& path) { return stateOf(path, largestFile); }
 
 FileState stateToReplace(const QString& path)

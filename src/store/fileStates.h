@@ -11,6 +11,9 @@ QByteArray readAndRemember(const QString& path, qint64 limit);
 /// The state when the file was last read or written; missing when it never was.
 FileState knownState(const QString& path);
 
+/// Forgets all files with this ending: they count as never read.
+void forgetStates(QLatin1StringView ending);
+
 /// The state on the disk now. Raises nothing.
 FileState stateOnDisk(const QString& path);
 

@@ -6,7 +6,7 @@
 #include "platform/desktop.h"
 #include "platform/picture.h"
 #include "platform/realDesktop.h"
-#include "platform/wavePlayer.h"
+#include "platform/soundDevices.h"
 #include "store/options.h"
 #include "window/Form1.h"
 #include "window/FrmStlogo.h"
@@ -71,7 +71,7 @@ int runTallymoor()
     QApplication::setQuitOnLastWindowClosed(false); // shutDown() ends the program, in order
     QTimer::singleShot(0, [] { endingOnError(startUp); });
     const int result = desktop.runProgram();
-    leaveSound();
+    soundDevices::leave();
     return result;
 }
 

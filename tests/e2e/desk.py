@@ -178,6 +178,12 @@ class Ear:
         samples = [s for s in array.array("h", data[:len(data) // 2 * 2]) if s]
         return math.sqrt(sum(s * s for s in samples) / len(samples)) / 32768 if samples else 0.0
 
+    def hertz(self):
+        """The pitch of all sound recorded so far: how often it rises through zero in a second."""
+        data = self._file.read_bytes()
+        samples = [s for s in array.array("h", data[:len(data) // 2 * 2]) if abs(s) > 32]
+        return sum(a < 0 < b for a, b in zip(samples, samples[1:])) * self.RATE / len(samples)
+
     def seconds(self):
         """The duration of all sound recorded so far."""
         data = self._file.read_bytes()

@@ -29,6 +29,8 @@ T nextOf(std::deque<T>& prepared, T otherwise)
     return value;
 }
 
+void become(SoundActivity activity) { recorded.soundProgress.activity = activity; }
+
 QString chosenOrNone()
 {
     if (recorded.chosen.empty())
@@ -56,6 +58,19 @@ Desktop recordingDesktop()
     d.files.volumes = [] { return QList<Volume>(); };
     d.sound.beep = [] { ++recorded.beeps; };
     d.sound.play = [](const QString& path) { recorded.played.append(path); };
+    d.sound.playBack = [](const QByteArray&) { become(SoundActivity::playing); };
+    d.sound.record = [] {
+        become(SoundActivity::recording);
+        return true;
+    };
+    d.sound.pause = [](bool) {};
+    d.sound.stop = [] { become(SoundActivity::none); };
+    d.sound.takeRecording = [] {
+        const bool records = recorded.soundProgress.activity == SoundActivity::recording;
+        become(SoundActivity::none);
+        return records ? recorded.recording : QByteArray();
+    };
+    d.sound.progress = [] { return recorded.soundProgress; };
     d.paper.printerNames = [] { return QStringList(); };
     d.paper.defaultPrinterName = [] { return QString(); };
     d.clipboard.clear = [] {};

@@ -21,11 +21,13 @@ inline void PrintTo(const QString& text, std::ostream* out) { *out << '"' << tex
 /// The calls recorded by the seams, and the prepared answers.
 struct Recorded {
     int beeps = 0;
-    int rounds = 0;       // of yield
-    int ends = 0;         // of the program
-    QStringList messages; // "title|text"
-    QStringList played;   // paths of sounds
-    QStringList started;  // programs and documents, with their arguments after blanks
+    int rounds = 0;              // of yield
+    int ends = 0;                // of the program
+    QStringList messages;        // "title|text"
+    QStringList played;          // paths of sounds
+    QByteArray recording;        // what the microphone delivers
+    SoundProgress soundProgress; // of player and recorder
+    QStringList started;         // programs and documents, with their arguments after blanks
     std::vector<int> redrawnCards;
 
     std::deque<bool> answers;   // to ask(); an unexpected question fails the test and is answered No
