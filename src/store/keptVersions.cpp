@@ -9,9 +9,13 @@
 #include <QDateTime>
 #include <QDir>
 
+#include <functional>
+
 using namespace Qt::StringLiterals;
 
 namespace {
+
+constexpr int momentTries = 10;
 
 QString keptFolder() { return joinPath(session.dbPath, u".kept"_s); }
 
@@ -74,21 +78,57 @@ QString makeMoment()
     return moment;
 }
 
+/// Runs `fill` with a new folder for this moment. Another program that makes room at the same time takes a
+/// folder for the oldest and removes it while it is empty, where the clocks of two machines differ or the
+/// name was free again: then `fill` starts afresh in another folder.
+void fillMoment(const std::function<void(const QString& moment)>& fill)
+{
+    for (int attempt = 1;; ++attempt) {
+        try {
+            return fill(makeMoment());
+        } catch (const RuntimeError& error) {
+            if (error.number() != pathNotFound || attempt == momentTries)
+                throw;
+        }
+    }
+}
+
 QString nameIn(const QString& folder, const QFileInfo& file) { return joinPath(folder, file.fileName()); }
+
+/// Of a file that has just been deleted by another program there is nothing to keep.
+void keepCopy(const QFileInfo& file, const QString& moment)
+{
+    try {
+        replaceFile(nameIn(moment, file), readWholeFile(file.filePath(), mostKeptBytes), file.filePath());
+    } catch (const RuntimeError& error) {
+        if (error.number() != fileNotFound)
+            throw;
+    }
+}
+
+/// Takes out of `files` those that it could move. Raises 76 when the moment's folder has gone.
+void moveTo(const QString& moment, QFileInfoList& files)
+{
+    files.removeIf(
+        [&moment](const QFileInfo& file) { return QFile::rename(file.filePath(), nameIn(moment, file)); });
+    if (!files.isEmpty() && !QFileInfo::exists(moment))
+        throw RuntimeError(pathNotFound);
+}
 
 } // namespace
 
 void keepVersions(const QStringList& paths)
 {
-    if (paths.isEmpty())
-        return;
     const QFileInfoList files(paths.begin(), paths.end());
+    if (files.isEmpty())
+        return;
     if (bytesOf(files) > mostKeptBytes)
         throw RuntimeError(outOfMemory);
     makeRoomFor(files);
-    const QString moment = makeMoment();
-    for (const QFileInfo& file : files)
-        replaceFile(nameIn(moment, file), readWholeFile(file.filePath(), mostKeptBytes), file.filePath());
+    fillMoment([&files](const QString& moment) {
+        for (const QFileInfo& file : files)
+            keepCopy(file, moment);
+    });
 }
 
 void moveToKept(const QStringList& paths)
@@ -98,11 +138,9 @@ void moveToKept(const QStringList& paths)
         if (const QFileInfo file(path); file.exists())
             files.append(file);
     }
-    QString moment;
     if (!files.isEmpty() && bytesOf(files) <= mostKeptBytes)
-        ignoringErrors({[&] { makeRoomFor(files); }, [&] { moment = makeMoment(); }});
-    for (const QFileInfo& file : files) {
-        if (moment.isEmpty() || !QFile::rename(file.filePath(), nameIn(moment, file)))
-            QFile::remove(file.filePath());
-    }
+        ignoringErrors({[&] { makeRoomFor(files); },
+                        [&] { fillMoment([&](const QString& moment) { moveTo(moment, files); }); }});
+    for (const QFileInfo& file : files)
+        QFile::remove(file.filePath());
 }
