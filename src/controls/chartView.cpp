@@ -63,6 +63,12 @@ QImage ChartView::picture(double ratio)
     return chartPicture(shown, size(), ratio, look());
 }
 
+std::function<void(QPainter&)> ChartView::painting()
+{
+    ensurePolished();
+    return [layout = laidOut, how = look()](QPainter& painter) { paintChart(painter, layout, how); };
+}
+
 void ChartView::chooseMark(int mark)
 {
     chosen = std::clamp(mark, -1, int(laidOut.marks.size()) - 1);

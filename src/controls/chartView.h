@@ -24,6 +24,8 @@ public:
     void setChart(const Chart& chart);
     /// The chart in the size of the view, with `ratio` pixels to each of the view's.
     QImage picture(double ratio);
+    /// What paints the chart as it is now, in the size of the view.
+    std::function<void(QPainter&)> painting();
 
     const ChartLayout& layout() const { return laidOut; }
     /// The value that the arrow keys or a press have chosen, -1 for none.

@@ -10,6 +10,8 @@ MainView blankMainView()
     blank.showTable = [] {};
     blank.redrawTable = [] {};
     blank.chartPicture = [] { return QImage(); };
+    blank.chartDrawing = [] { return ChartDrawing(); };
+    blank.captionFont = [] { return QFont(); };
     blank.measureLabel = [](const QString&, double&, double&) {};
     blank.showSpeedWindow = [] {};
     blank.unloadSpeedWindow = [] {};

@@ -2,10 +2,19 @@
 // window/assembly.h sets these before the first window is made; tests record the calls.
 #pragma once
 
+#include <QFont>
 #include <QImage>
+#include <QSizeF>
 #include <QString>
 
 #include <functional>
+
+class QPainter;
+
+struct ChartDrawing {
+    QSizeF size;
+    std::function<void(QPainter& painter)> paint;
+};
 
 struct MainView {
     /// Everything on the board may have changed.
@@ -23,6 +32,10 @@ struct MainView {
     std::function<void()> redrawTable;
     /// The chart at twice the screen's resolution; null without a main window.
     std::function<QImage()> chartPicture;
+    /// The chart as it is on view, with its size in pixels; the size is empty without a main window.
+    std::function<ChartDrawing()> chartDrawing;
+    /// The font of the board's captions.
+    std::function<QFont()> captionFont;
     /// Measures a caption in the board's font, in pixels.
     std::function<void(const QString& text, double& width, double& height)> measureLabel;
 

@@ -257,8 +257,10 @@ struct WindowState {
 };
 
 struct PaperState {
-    double printScale = 0;
+    QString printChoice;   // "Screen", "Card" or "Graph"
+    double printScale = 0; // the margin as a share of the page's height
     PrinterList Printercombo;
+    bool saveAsPdf = false; // printouts go to a file instead of the chosen printer
 };
 
 struct Session {

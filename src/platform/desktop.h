@@ -5,6 +5,7 @@
 #include <QDateTime>
 #include <QImage>
 #include <QSize>
+#include <QSizeF>
 #include <QString>
 #include <QStringList>
 
@@ -28,6 +29,13 @@ struct SoundProgress {
     double level = 0;    // of the sound being recorded: 0 silence, 1 the loudest
 };
 
+/// What the printing system answers about a printer. `sheet` is its usual paper, upright, in points; empty
+/// when it doesn't say.
+struct PrinterAnswer {
+    bool acceptsJobs = false;
+    QSizeF sheet;
+};
+
 struct Desktop {
     struct Boxes {
         /// Shows a message box and waits until it is closed.
@@ -45,12 +53,18 @@ struct Desktop {
         /// The same for pictures, with a preview of the one that is marked.
         std::function<QString(const QString& caption, const QString& startFolder, const QString& filter)>
             choosePicture;
+        /// The path of a file that is to be written, empty when the dialog was cancelled. Asks before one
+        /// that is there is replaced.
+        std::function<QString(const QString& caption, const QString& suggestedPath, const QString& filter)>
+            chooseNewFile;
 
         /// The folder of the executable, where the settings file lies; no separator at its end.
         std::function<QString()> programFolder;
         std::function<QString()> documentsFolder;
         /// A folder of the user's own for the program's files, made when it isn't there.
         std::function<QString()> ownFolder;
+        /// Where the icons of the user's desktop lie; empty when there is none.
+        std::function<QString()> desktopFolder;
         std::function<QList<Volume>()> volumes;
     };
 
@@ -76,6 +90,10 @@ struct Desktop {
     struct Paper {
         std::function<QStringList()> printerNames;
         std::function<QString()> defaultPrinterName;
+        /// Waits two seconds at most; a printing system that is silent has no printer that accepts jobs.
+        std::function<PrinterAnswer(const QString& printer)> askPrinter;
+        /// Sends the PDF file as one job of that title. False when it could not be handed over.
+        std::function<bool(const QString& printer, const QString& title, const QByteArray& pdf)> print;
     };
 
     struct Clipboard {

@@ -1,12 +1,12 @@
 #include "platform/realDesktop.h"
 
 #include "platform/desktop.h"
-#include "platform/errands.h"
 #include "platform/errors.h"
 #include "platform/mounts.h"
 #include "platform/owningWindow.h"
 #include "platform/picture.h"
 #include "platform/pictureChooser.h"
+#include "platform/printers.h"
 #include "platform/roundPace.h"
 #include "platform/soundDevices.h"
 
@@ -17,14 +17,12 @@
 #include <QFileDialog>
 #include <QGuiApplication>
 #include <QMessageBox>
-#include <QPrinterInfo>
 #include <QProcess>
 #include <QRandomGenerator>
 #include <QScreen>
 #include <QStandardPaths>
 #include <QUrl>
 
-#include <future>
 #include <thread>
 #include <utility>
 
@@ -96,18 +94,14 @@ QString ownFolder()
     return folder;
 }
 
-// What askForPrintersEarly() asked for; each answer is given once.
-std::future<QStringList> earlyNames;
-std::future<QString> earlyDefault;
-
-QStringList printerNames()
+QString chooseNewFile(const QString& caption, const QString& suggestedPath, const QString& filter)
 {
-    return earlyNames.valid() ? earlyNames.get() : QPrinterInfo::availablePrinterNames();
-}
-
-QString defaultPrinterName()
-{
-    return earlyDefault.valid() ? earlyDefault.get() : QPrinterInfo::defaultPrinterName();
+    QFileDialog dialog(owningWindow(), caption, {}, filter);
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setDefaultSuffix(QFileInfo(suggestedPath).suffix());
+    dialog.setDirectory(QFileInfo(suggestedPath).path());
+    dialog.selectFile(QFileInfo(suggestedPath).fileName());
+    return chosenIn(dialog);
 }
 
 void letARoundPass()
@@ -161,12 +155,16 @@ void installDesktop()
 
     desktop.files.chooseFolder = chooseFolder;
     desktop.files.chooseFile = chooseFile;
+    desktop.files.chooseNewFile = chooseNewFile;
     desktop.files.choosePicture = choosePictureFile;
     desktop.files.programFolder = [] { return QCoreApplication::applicationDirPath(); };
     desktop.files.documentsFolder = [] {
         return QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
     };
     desktop.files.ownFolder = ownFolder;
+    desktop.files.desktopFolder = [] {
+        return QStandardPaths::writableLocation(QStandardPaths::DesktopLocation);
+    };
     desktop.files.volumes = drivesOfComputer;
 
     desktop.sound.beep = [] { QApplication::beep(); };
@@ -180,6 +178,8 @@ void installDesktop()
 
     desktop.paper.printerNames = printerNames;
     desktop.paper.defaultPrinterName = defaultPrinterName;
+    desktop.paper.askPrinter = askPrinter;
+    desktop.paper.print = printOn;
 
     desktop.clipboard.clear = [] { QGuiApplication::clipboard()->clear(); };
     desktop.clipboard.copyText = [](const QString& text) { QGuiApplication::clipboard()->setText(text); };
@@ -207,21 +207,4 @@ void installDesktop()
     desktop.waitForEvents = [] { QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents); };
     desktop.random = [] { return QRandomGenerator::global()->generateDouble(); };
     desktop.now = [] { return QDateTime::currentDateTime(); };
-}
-
-void askForPrintersEarly()
-{
-    auto names = std::make_shared<std::promise<QStringList>>();
-    auto standard = std::make_shared<std::promise<QString>>();
-    earlyNames = names->get_future();
-    earlyDefault = standard->get_future();
-    auto* errands = new Errands;
-    errands->setParent(qApp);
-    errands->send(
-        [names, standard](const Errands::Forgotten&) {
-            names->set_value(QPrinterInfo::availablePrinterNames());
-            standard->set_value(QPrinterInfo::defaultPrinterName());
-            return true;
-        },
-        [errands](bool) { errands->deleteLater(); });
 }

@@ -42,6 +42,12 @@ void connectWindow()
     mainView.chartPicture = [] {
         return isLoaded<Form1>() ? form<Form1>().MSChart->picture(2 * desktop.screen.pixelRatio()) : QImage();
     };
+    mainView.chartDrawing = [] {
+        if (!isLoaded<Form1>())
+            return ChartDrawing();
+        ChartView& chart = *form<Form1>().MSChart;
+        return ChartDrawing{QSizeF(chart.size()), chart.painting()};
+    };
     mainView.redrawTable = inWindow([](Form1& window) { window.tablePanel->showGrid(); });
     mainView.showSpeedWindow = [] { showSpeedWindow(isLoaded<Form1>() ? &form<Form1>() : nullptr); };
     mainView.unloadSpeedWindow = unload<FrmSpeed>;
@@ -51,6 +57,7 @@ void connectBoard()
 {
     mainView.redrawBoard = inWindow([](Form1& window) { window.board->repaintBoard(); });
     mainView.redrawCard = inWindow([](Form1& window, int card) { window.board->repaintCard(card); });
+    mainView.captionFont = [] { return isLoaded<Form1>() ? form<Form1>().board->font() : QFont(); };
     mainView.measureLabel = inWindow([](Form1& window, const QString& text, double& width, double& height) {
         window.board->measureLabel(text, width, height);
     });

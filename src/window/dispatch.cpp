@@ -1,6 +1,7 @@
 #include "window/dispatch.h"
 
 #include "analysis/analysisCommands.h"
+#include "analysis/printCommand.h"
 #include "board/labels.h"
 #include "core/mainView.h"
 #include "core/menu.h"
@@ -45,7 +46,7 @@ const MenuLine lines[] = {
     {u"Open..."_s, u"menuOpen"_s, 0, openAnother},
     {u"Save"_s, {}, asItWas, nothing},
     {u"Save As..."_s, {}, asItWas, nothing},
-    {u"Print..."_s, u"menuPrint"_s, asItWas, nullptr},
+    {u"Print..."_s, u"menuPrint"_s, asItWas, printCommand},
     {u"Exit"_s, u"menuExit"_s, 0, shutDown},
     {u"Add Card..."_s, u"menuAddCard"_s, 0, addCard},
     {u"Delete Card"_s, u"menuDeleteCard"_s, 0, showBin},

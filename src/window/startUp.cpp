@@ -5,6 +5,7 @@
 #include "controls/returnInLists.h"
 #include "platform/desktop.h"
 #include "platform/picture.h"
+#include "platform/printers.h"
 #include "platform/realDesktop.h"
 #include "platform/soundDevices.h"
 #include "store/options.h"

@@ -53,8 +53,10 @@ Desktop recordingDesktop()
     d.files.chooseFolder = [](const QString&, const QString&) { return chosenOrNone(); };
     d.files.chooseFile = [](const QString&, const QString&, const QString&) { return chosenOrNone(); };
     d.files.choosePicture = d.files.chooseFile;
+    d.files.chooseNewFile = d.files.chooseFile;
     d.files.programFolder = [] { return testFolder().chopped(1); };
     d.files.documentsFolder = []() -> QString { return testFolder() + u"Documents"_s; };
+    d.files.desktopFolder = [] { return testFolder() + u"Desktop"_s; };
     d.files.volumes = [] { return QList<Volume>(); };
     d.sound.beep = [] { ++recorded.beeps; };
     d.sound.play = [](const QString& path) { recorded.played.append(path); };
@@ -73,6 +75,12 @@ Desktop recordingDesktop()
     d.sound.progress = [] { return recorded.soundProgress; };
     d.paper.printerNames = [] { return QStringList(); };
     d.paper.defaultPrinterName = [] { return QString(); };
+    d.paper.askPrinter = [](const QString& printer) { return PrinterAnswer{!printer.isEmpty(), {}}; };
+    d.paper.print = [](const QString& printer, const QString& title, const QByteArray& pdf) {
+        recorded.printed.append(printer + u'|' + title);
+        recorded.pdf = pdf;
+        return true;
+    };
     d.clipboard.clear = [] {};
     d.clipboard.copyText = [](const QString&) {};
     d.clipboard.copyPicture = [](const QImage&) {};
@@ -81,7 +89,7 @@ Desktop recordingDesktop()
         recorded.started.append((QStringList(path) + arguments).join(u' '));
     };
     d.programs.startCommand = [](const QString& commandLine) { recorded.started.append(commandLine); };
-    d.screen.setBusyPointer = [](bool) {};
+    d.screen.setBusyPointer = [](bool busy) { recorded.busy = busy; };
     d.screen.size = [] { return QSize(1280, 800); };
     d.screen.twipsPerPixelX = [] { return 15.0; };
     d.screen.twipsPerPixelY = [] { return 15.0; };

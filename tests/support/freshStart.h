@@ -28,6 +28,9 @@ struct Recorded {
     QByteArray recording;        // what the microphone delivers
     SoundProgress soundProgress; // of player and recorder
     QStringList started;         // programs and documents, with their arguments after blanks
+    QStringList printed;         // "printer|title" of every job
+    QByteArray pdf;              // of the last job
+    bool busy = false;           // the hourglass is shown
     std::vector<int> redrawnCards;
 
     std::deque<bool> answers;   // to ask(); an unexpected question fails the test and is answered No

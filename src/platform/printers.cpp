@@ -1,0 +1,200 @@
+#include "platform/printers.h"
+
+#include "platform/errands.h"
+
+#include <QCoreApplication>
+#include <QEventLoop>
+#include <QTimer>
+
+#include <cups/cups.h>
+
+#include <chrono>
+#include <future>
+#include <memory>
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+
+namespace {
+
+constexpr auto patience = 1800ms;             // with a question; the pupil waits for two seconds at most
+constexpr auto sendingPatience = 30s;         // with a job on its way
+constexpr int connectingLimit = 1500;         // ms
+constexpr double silenceLimit = 5;            // seconds
+constexpr double pointsPerUnit = 72.0 / 2540; // of CUPS' sizes of paper
+
+// ---- on other threads ----
+
+struct Printers {
+    QStringList names;
+    QString standard;
+};
+
+using Connection = std::unique_ptr<http_t, decltype(&httpClose)>;
+
+Connection connectToCups()
+{
+    http_t* cups = httpConnect2(cupsServer(), ippPort(), nullptr, AF_UNSPEC, cupsEncryption(), 1,
+                                connectingLimit, nullptr);
+    if (cups)
+        httpSetTimeout(
+            cups, silenceLimit, [](http_t*, void*) { return 0; }, nullptr);
+    return {cups, httpClose};
+}
+
+/// A printer, or a set of options for it, as CUPS knows it; without one when it doesn't.
+class Destination {
+public:
+    Destination(http_t* cups, const QString& printer)
+    {
+        const QByteArray name = printer.section(u'/', 0, 0).toUtf8();
+        const QByteArray instance = printer.section(u'/', 1).toUtf8();
+        found = cupsGetNamedDest(cups, name.constData(), instance.isEmpty() ? nullptr : instance.constData());
+    }
+    ~Destination() { cupsFreeDests(found ? 1 : 0, found); }
+    Destination(const Destination&) = delete;
+    Destination& operator=(const Destination&) = delete;
+
+    cups_dest_t* get() const { return found; }
+    QByteArray option(const char* name) const
+    {
+        return cupsGetOption(name, found->num_options, found->options);
+    }
+
+private:
+    cups_dest_t* found = nullptr;
+};
+
+Printers listPrinters()
+{
+    Printers list;
+    const Connection cups = connectToCups();
+    if (!cups)
+        return list;
+    cups_dest_t* all = nullptr;
+    const int count = cupsGetDests2(cups.get(), &all);
+    for (int i = 0; i < count; ++i) {
+        QString name = QString::fromUtf8(all[i].name);
+        if (all[i].instance)
+            name += u'/' + QString::fromUtf8(all[i].instance);
+        list.names.append(name);
+        if (all[i].is_default)
+            list.standard = name;
+    }
+    cupsFreeDests(count, all);
+    return list;
+}
+
+QSizeF usualPaper(http_t* cups, cups_dest_t* printer)
+{
+    cups_dinfo_t* details = cupsCopyDestInfo(cups, printer);
+    cups_size_t paper{};
+    const bool known =
+        details && cupsGetDestMediaDefault(cups, printer, details, CUPS_MEDIA_FLAGS_DEFAULT, &paper);
+    cupsFreeDestInfo(details);
+    return known ? QSizeF(paper.width, paper.length) * pointsPerUnit : QSizeF();
+}
+
+PrinterAnswer askCups(const QString& name)
+{
+    const Connection cups = connectToCups();
+    if (!cups)
+        return {};
+    const Destination printer(cups.get(), name);
+    if (!printer.get())
+        return {};
+    const bool stopped = printer.option("printer-state").toInt() == IPP_PSTATE_STOPPED;
+    if (stopped || printer.option("printer-is-accepting-jobs") != "true")
+        return {};
+    return {true, usualPaper(cups.get(), printer.get())};
+}
+
+/// The whole job, or none: one that could not be handed over completely is cancelled.
+bool sendToCups(const QString& name, const QString& title, const QByteArray& pdf)
+{
+    const Connection cups = connectToCups();
+    if (!cups)
+        return false;
+    const Destination printer(cups.get(), name);
+    if (!printer.get())
+        return false;
+    const char* queue = printer.get()->name;
+    const QByteArray words = title.toUtf8();
+    const int job = cupsCreateJob(cups.get(), queue, words.constData(), printer.get()->num_options,
+                                  printer.get()->options);
+    if (job == 0)
+        return false;
+    const bool sent =
+        cupsStartDocument(cups.get(), queue, job, words.constData(), CUPS_FORMAT_PDF, 1) == HTTP_CONTINUE &&
+        cupsWriteRequestData(cups.get(), pdf.constData(), std::size_t(pdf.size())) == HTTP_CONTINUE &&
+        cupsFinishDocument(cups.get(), queue) <= IPP_OK_CONFLICT;
+    if (!sent)
+        cupsCancelJob2(cups.get(), queue, job, 1);
+    return sent;
+}
+
+// ---- on this thread ----
+
+/// What `work` gives on another thread, or an empty result when it takes longer than `limit`. Meanwhile the
+/// windows are painted, but take no clicks or keys.
+template <class Work>
+auto answerWithin(std::chrono::milliseconds limit, Work work)
+{
+    std::invoke_result_t<Work> answer{};
+    Errands errands;
+    QEventLoop waiting;
+    errands.send([work](const Errands::Forgotten&) { return work(); },
+                 [&](const auto& result) {
+                     answer = result;
+                     waiting.quit();
+                 });
+    QTimer::singleShot(limit, &waiting, &QEventLoop::quit);
+    waiting.exec(QEventLoop::ExcludeUserInputEvents);
+    return answer;
+}
+
+std::future<Printers> early; // what askForPrintersEarly() asked for
+Printers latest;
+
+} // namespace
+
+void askForPrintersEarly()
+{
+    auto answer = std::make_shared<std::promise<Printers>>();
+    early = answer->get_future();
+    auto* errands = new Errands;
+    errands->setParent(qApp);
+    errands->send(
+        [answer](const Errands::Forgotten&) {
+            answer->set_value(listPrinters());
+            return true;
+        },
+        [errands](bool) { errands->deleteLater(); });
+}
+
+QStringList printerNames()
+{
+    if (!early.valid())
+        latest = answerWithin(patience, listPrinters);
+    else if (early.wait_for(patience) == std::future_status::ready)
+        latest = early.get();
+    early = {};
+    return latest.names;
+}
+
+QString defaultPrinterName()
+{
+    if (latest.standard.isEmpty())
+        printerNames();
+    return latest.standard;
+}
+
+PrinterAnswer askPrinter(const QString& printer)
+{
+    return answerWithin(patience, [printer] { return askCups(printer); });
+}
+
+bool printOn(const QString& printer, const QString& title, const QByteArray& pdf)
+{
+    return answerWithin(sendingPatience, [=] { return sendToCups(printer, title, pdf); });
+}

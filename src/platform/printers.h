@@ -1,0 +1,16 @@
+// The printers of this computer, through the printing system CUPS. Every question is asked on another thread:
+// a printing system may be slow, silent or gone.
+#pragma once
+
+#include "platform/desktop.h"
+
+/// Lists the printers in advance, so that the first printerNames() need not wait.
+void askForPrintersEarly();
+
+/// They wait two seconds at most, then there are no printers.
+QStringList printerNames();
+QString defaultPrinterName();
+
+/// As in Desktop::Paper.
+PrinterAnswer askPrinter(const QString& printer);
+bool printOn(const QString& printer, const QString& title, const QByteArray& pdf);
