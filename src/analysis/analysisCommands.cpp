@@ -1,14 +1,19 @@
 #include "analysis/analysisCommands.h"
 
+#include "analysis/frmQuestion.h"
 #include "analysis/graph.h"
 #include "analysis/graphWiz.h"
 #include "analysis/groupTable.h"
 #include "analysis/refusals.h"
+#include "analysis/reportForm.h"
 #include "analysis/statsForm.h"
 #include "controls/forms.h"
 #include "core/mainView.h"
 #include "core/session.h"
 #include "platform/errors.h"
+#include "store/questionFiles.h"
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -50,4 +55,20 @@ void showStatistics()
         form<statsForm>().prepare();
         ask(form<statsForm>());
     });
+}
+
+void makeReport()
+{
+    if (session.numCards <= 0) {
+        refuseReport();
+        return;
+    }
+    form<reportForm>().offerFieldNames();
+    ask(form<reportForm>());
+}
+
+void showClues()
+{
+    const QString clues = readQuestions().value_or(u"No Information Setup!"_s);
+    form<frmQuestion>().present(clues);
 }

@@ -4,6 +4,12 @@
 
 using namespace Qt::StringLiterals;
 
+void refuseReport()
+{
+    refuse(u"Making Reports"_s,
+           u"Sorry! You need to add a card or enter values before you can make Reports."_s);
+}
+
 void refuseStatistics()
 {
     refuse(u"Making Statistics"_s,

@@ -1,8 +1,10 @@
-// When graphs and statistics can't be made, and what is said then.
+// When graphs, statistics and reports can't be made, and what is said then.
 #pragma once
 
 inline constexpr int mostCardsInGraph = 40; // rows of the group table: each card can make one
 
+/// Says that cards or values are missing.
+void refuseReport();
 /// Says that cards or values are missing; the same is said of too many cards.
 void refuseStatistics();
 /// Says that cards or values are missing.

@@ -1,32 +1,25 @@
 #include "analysis/statsForm.h"
 
+#include "analysis/copying.h"
 #include "analysis/refusals.h"
 #include "analysis/statistics.h"
 #include "choices/fieldChoice.h"
 #include "controls/dialogParts.h"
 #include "controls/dropDown.h"
 #include "controls/paperRoll.h"
+#include "controls/plainText.h"
 #include "core/session.h"
 #include "platform/desktop.h"
 #include "platform/errors.h"
 #include "platform/values.h"
 
 #include <QBoxLayout>
-#include <QTextBlock>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
 constexpr QSize leastRoll(380, 230);
-
-/// The text with CR LF at its line ends and every blank as it was typed.
-QString textOf(const QPlainTextEdit& box)
-{
-    QString text = box.document()->toRawText();
-    text.replace(QChar(QChar::ParagraphSeparator), u"\r\n"_s);
-    return text.replace(QChar(QChar::LineSeparator), u"\r\n"_s);
-}
 
 } // namespace
 
@@ -149,12 +142,4 @@ void statsForm::addToRoll(const QString& result)
         equalsBut->setFocus();
 }
 
-void statsForm::copyRoll()
-{
-    const QString text = statisticsToCopy(TxtDate, textOf(*display));
-    desktop.clipboard.clear();
-    desktop.clipboard.copyText(text);
-    desktop.sound.beep();
-    desktop.boxes.showMessage(MessageIcon::information, u"Information"_s,
-                              u"Information has been copied into Clipboard."_s);
-}
+void statsForm::copyRoll() { copyText(statisticsToCopy(TxtDate, typedText(*display))); }

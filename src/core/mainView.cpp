@@ -26,6 +26,7 @@ MainView blankMainView()
     blank.watchTutorial = [](const QString&) {};
     blank.installTutorials = [] {};
     blank.showClues = [] {};
+    blank.closeClues = [] {};
     blank.setRefresh = [](const QString&) {};
     return blank;
 }

@@ -58,6 +58,8 @@ struct MainView {
     std::function<void(const QString& tutorial)> watchTutorial;
     std::function<void()> installTutorials;
     std::function<void()> showClues;
+    /// The open database is about to be another one, or none: its clues are out of date.
+    std::function<void()> closeClues;
     std::function<void(const QString& word)> setRefresh;
 };
 

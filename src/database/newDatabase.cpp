@@ -82,6 +82,7 @@ void beginDatabase(const QString& path)
     if (path.startsWith(documents + u'/'))
         QDir().mkpath(documents); // a new user's documents folder may not exist yet
     makeFolder(path);
+    mainView.closeClues();
     session.dbPath = path;
     write(option::lastDatabase, path);
     emptySession();

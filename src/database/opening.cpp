@@ -28,6 +28,7 @@ constexpr int tileGap = 10;
 void openFolder(const QString& folder)
 {
     session.run.stopped = true; // a run in progress would move the new cards to the old ones' places
+    mainView.closeClues();
     session.dbPath = folder;
     updateTitle();
     sweepLeftovers(folder);

@@ -23,6 +23,7 @@ void newCommand()
 void closeDatabase()
 {
     deleteAnswers();
+    mainView.closeClues();
     session.design.ChkRD = false;
     unload<DesignForm>();
     setTitle(titleWithoutDatabase());

@@ -17,6 +17,7 @@
 #include <QFileDialog>
 #include <QGuiApplication>
 #include <QMessageBox>
+#include <QMimeDatabase>
 #include <QProcess>
 #include <QRandomGenerator>
 #include <QScreen>
@@ -113,10 +114,23 @@ void letARoundPass()
         std::this_thread::sleep_for(ahead);
 }
 
+/// The desktop's answer is awaited: a document that it has no program for would be dropped in silence.
+/// Without an answer it is taken to have one.
+bool hasProgramFor(const QString& path)
+{
+    constexpr int patience = 3000; // ms
+    QProcess query;
+    query.start(u"xdg-mime"_s, {u"query"_s, u"default"_s, QMimeDatabase().mimeTypeForFile(path).name()});
+    return !query.waitForFinished(patience) || query.exitCode() != 0 || !query.readAll().trimmed().isEmpty();
+}
+
 void openDocument(const QString& path)
 {
-    if (!QFileInfo::exists(path) || !QDesktopServices::openUrl(QUrl::fromLocalFile(path)))
+    if (!QFileInfo::exists(path))
         throw RuntimeError(fileNotFound);
+    if (!hasProgramFor(path) || !QDesktopServices::openUrl(QUrl::fromLocalFile(path)))
+        throw RuntimeError(fileNotFound, u"Sorry! This computer has no program to show \"%1\"."_s.arg(
+                                             QFileInfo(path).fileName()));
 }
 
 void startProgram(const QString& path, const QStringList& arguments)

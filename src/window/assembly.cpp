@@ -1,5 +1,7 @@
 #include "window/assembly.h"
 
+#include "analysis/analysisCommands.h"
+#include "analysis/frmQuestion.h"
 #include "board/boardWidget.h"
 #include "board/tablePanel.h"
 #include "controls/balloon.h"
@@ -72,6 +74,8 @@ void connectCommands()
     mainView.openCard = openCardEditor;
     mainView.openPictureEditor = openPictureEditor;
     mainView.watchTutorial = watchTutorial;
+    mainView.showClues = showClues;
+    mainView.closeClues = unload<frmQuestion>;
 }
 
 } // namespace

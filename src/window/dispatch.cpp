@@ -23,9 +23,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const Refusal noReport{[] { return session.numCards == 0; }, u"Making Reports"_s,
-                       u"Sorry! You need to add a card or enter values before you can make Reports."_s};
-
 void nothing() {}
 
 void openAnother()
@@ -56,7 +53,7 @@ const MenuLine lines[] = {
     {u"Sort..."_s, u"menuSort"_s, 0, sortCommand},
     {u"Group..."_s, u"menuGroup"_s, 0, groupCommand},
     {u"Make Graph..."_s, u"menuMakeGraph"_s, 1, makeGraph},
-    {u"Report..."_s, u"menuReport"_s, 0, nullptr, &noReport},
+    {u"Report..."_s, u"menuReport"_s, 0, makeReport},
     {u"Statistics..."_s, u"menuStatistics"_s, 0, showStatistics},
     {u"Data Map..."_s, {}, 0, tellThatTheDataMapIsMissing},
     {u"Undo"_s, {}, asItWas, nothing},
@@ -112,8 +109,6 @@ void runCommand(const QString& word)
         return;
     if (line->graphOnScreen != asItWas)
         session.graph.graphOnScreen = qint16(line->graphOnScreen);
-    if (line->refusal && line->refusal->applies())
-        refuse(line->refusal->title, line->refusal->text);
-    else if (line->command)
+    if (line->command)
         line->command();
 }

@@ -3,22 +3,14 @@
 
 #include <QString>
 
-/// When a command is refused, and the message shown.
-struct Refusal {
-    bool (*applies)();
-    QString title;
-    QString text;
-};
-
 inline constexpr int asItWas = -1;
 
 /// A command of the menus.
 struct MenuLine {
     QString word;
-    QString icon;                     // name of its icon
-    int graphOnScreen;                // what session.graph.graphOnScreen becomes, or asItWas
-    void (*command)();                // null for a command that doesn't exist yet
-    const Refusal* refusal = nullptr; // checked before the command
+    QString icon;      // name of its icon
+    int graphOnScreen; // what session.graph.graphOnScreen becomes, or asItWas
+    void (*command)(); // null for a command that doesn't exist yet
 };
 
 /// The entry for the word, null for an unknown one.

@@ -369,6 +369,11 @@ class Tour:
         self.desk.picture(now)
         return int(float(self.desk.run("compare", "-metric", "AE", str(picture), str(now), "null:", check=False)))
 
+    def pasted(self, kind):
+        """What a second program finds on the clipboard."""
+        return subprocess.run(("xclip", "-selection", "clipboard", "-o", "-t", kind), env=self.desk.environment,
+                              stdout=subprocess.PIPE, check=True).stdout
+
     def listen(self):
         """A recorder of the speaker, for a with statement."""
         return Ear(self.desk)
