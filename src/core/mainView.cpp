@@ -21,6 +21,8 @@ MainView blankMainView()
     blank.cardDropped = [](int) {};
     blank.openPictureEditor = [] {};
     blank.openTeacherOptions = [] {};
+    blank.startTimer = [](const char*) {};
+    blank.allowInReport = [](const char*, bool) {};
     blank.newDatabase = [] {};
     blank.openDatabase = [] {};
     blank.watchTutorial = [](const QString&) {};

@@ -52,6 +52,10 @@ struct MainView {
     std::function<void(int card)> cardDropped;
     std::function<void()> openPictureEditor; // for Picture1 of the card editor
     std::function<void()> openTeacherOptions;
+    /// Starts the main window's one-shot timer of that name (window/onceTimers.h).
+    std::function<void(const char* timer)> startTimer;
+    /// Enables a control of the report window, or lets its text be changed, if that window is loaded.
+    std::function<void(const char* control, bool allowed)> allowInReport;
     std::function<void()> newDatabase;
     std::function<void()> openDatabase;
     /// Starts the tutorial of that name, or offers to install the tutorials.

@@ -181,7 +181,10 @@ struct OptionBoxes {
     QString txtClue = QStringLiteral("0");
     QString txtDBLock = QStringLiteral("0");
     QString txtDelRandomCard = QStringLiteral("1");
-    QString boardKeys = QStringLiteral("0"); // "1": keys reach the cards on the board
+    qint16 soundStatus = 0;                          // 1: the card editor has its sound page
+    QString roOptionStatus = QStringLiteral("RW");   // "RW": a database may be marked read-only
+    QString upLevelStatus = QStringLiteral("False"); // "True": the file dialog stays in its folder
+    QString boardKeys = QStringLiteral("0");         // "1": keys reach the cards on the board
     QString WSPath;
     QString TWS = QStringLiteral("0");
     QString TipBox = QStringLiteral("1");

@@ -15,6 +15,11 @@ QString titleEnding()
     return u" Release %1.%2 (Build %3)"_s.arg(TALLYMOOR_MAJOR).arg(TALLYMOOR_MINOR).arg(TALLYMOOR_REVISION);
 }
 
+QString releaseWithComment()
+{
+    return titleEnding().trimmed() + u'\n' + QLatin1StringView(TALLYMOOR_COMMENT);
+}
+
 QString titleWithoutDatabase() { return u"[No Database] - Tallymoor"_s + titleEnding(); }
 
 void updateTitle()

@@ -6,6 +6,9 @@
 /// "Release 1.0.0", shown on the splash.
 QString releaseName();
 
+/// "Release 1.0 (Build 0)" and a second line that describes the program.
+QString releaseWithComment();
+
 /// " Release 1.0 (Build 0)", the end of every title.
 QString titleEnding();
 

@@ -1,6 +1,7 @@
 #include "database/FileForm.h"
 
 #include "controls/dialogParts.h"
+#include "core/session.h"
 #include "platform/desktop.h"
 #include "platform/picture.h"
 #include "platform/textLines.h"
@@ -174,10 +175,22 @@ void FileForm::load()
         name->ensurePolished(); // applies the style sheet's font
         name->setFixedHeight(nameLines * name->fontMetrics().lineSpacing());
     }
-    const bool free = read(option::stayInFolder) == "False"_L1;
+    session.options.upLevelStatus = read(option::stayInFolder);
+    followUpLevel();
+    TLPath = resolvedFolder(readFolder(option::workingFolder));
+}
+
+void FileForm::followUpLevel()
+{
+    const bool free = session.options.upLevelStatus == "False"_L1;
     upFoldBut->setEnabled(free);
     StdDiBoxBut->setEnabled(free);
+}
+
+void FileForm::takeWorkingFolder()
+{
     TLPath = resolvedFolder(readFolder(option::workingFolder));
+    walk.setFolder(TLPath);
 }
 
 void FileForm::choose(const FileChoice& choice, const QString& startFolder)

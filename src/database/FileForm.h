@@ -30,6 +30,11 @@ public:
     /// or "Cancel". For a start folder that can't be read the error is shown and the answer is "Cancel".
     void choose(const FileChoice& choice, const QString& startFolder);
 
+    /// Enables the ways out of the working folder as session.options.upLevelStatus says.
+    void followUpLevel();
+    /// Reads the working folder again and goes there.
+    void takeWorkingFolder();
+
     /// The folder that the dialog shows.
     QString folder() const { return walk.folder(); }
 

@@ -23,7 +23,11 @@ QString fieldTypeWord(int f)
     return session.fieldType[f] == text ? text : u"123"_s;
 }
 
-bool readOnlyMayChange() { return read(option::readOnly) != "RO"_L1; }
+bool readOnlyMayChange()
+{
+    session.options.roOptionStatus = read(option::readOnly);
+    return session.options.roOptionStatus != "RO"_L1;
+}
 
 void acceptDesign()
 {

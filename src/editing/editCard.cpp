@@ -172,8 +172,8 @@ void editCard::connectControls()
 
 void editCard::load()
 {
-    const double soundStatus = leadingNumber(read(option::sound));
-    if (soundStatus == 0)
+    session.options.soundStatus = soundStatusOf(read(option::sound));
+    if (session.options.soundStatus == 0)
         FTab1->hide();
 }
 

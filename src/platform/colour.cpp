@@ -69,3 +69,8 @@ QColor colourOf(const QString& text)
         return Qt::black;
     return QGuiApplication::palette().color(QPalette::Active, systemColours[index]);
 }
+
+QString colourValue(const QColor& colour)
+{
+    return QString::number(colour.red() | colour.green() << 8 | colour.blue() << 16);
+}

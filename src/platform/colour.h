@@ -8,3 +8,6 @@
 /// or the same number as "&H...". With the high bit set it is a colour of the desktop ("&H8000000F" is the
 /// face of buttons). Any other text is black.
 QColor colourOf(const QString& text);
+
+/// The colour as a decimal number, as colourOf() reads it.
+QString colourValue(const QColor& colour);

@@ -2,6 +2,7 @@
 // grow. installDesktop() sets the real functions at start-up; tests set recording ones.
 #pragma once
 
+#include <QColor>
 #include <QDateTime>
 #include <QImage>
 #include <QSize>
@@ -42,10 +43,13 @@ struct Desktop {
         std::function<void(MessageIcon icon, const QString& title, const QString& text)> showMessage;
         /// Asks with Yes and No; true for Yes.
         std::function<bool(const QString& title, const QString& text)> ask;
+        /// The chosen colour, invalid when the dialog was cancelled.
+        std::function<QColor(const QString& title, const QColor& present)> chooseColour;
     };
 
     struct Files {
-        /// The chosen folder, empty when the dialog was cancelled.
+        /// The chosen folder, empty when the dialog was cancelled. `caption` may have a second line: an
+        /// instruction.
         std::function<QString(const QString& caption, const QString& startFolder)> chooseFolder;
         /// The chosen file, empty when the dialog was cancelled. `filter` as in "Sounds (*.wav)".
         std::function<QString(const QString& caption, const QString& startFolder, const QString& filter)>
@@ -105,6 +109,8 @@ struct Desktop {
     struct Programs {
         /// Opens a document in the program that the desktop has for it. Raises 53 when that fails.
         std::function<void(const QString& path)> openDocument;
+        /// The same for the address of a web page or a new mail ("mailto:...").
+        std::function<void(const QString& address)> openLink;
         /// Starts a program in a normal window without waiting. Raises 53 when that fails.
         std::function<void(const QString& path, const QStringList& arguments)> start;
         /// The same for a command line, in which a name with blanks stands between double quotes.
@@ -121,6 +127,8 @@ struct Desktop {
         std::function<double()> pixelRatio;
         /// Shows the hourglass as the mouse pointer everywhere, or the usual pointers again.
         std::function<void(bool busy)> setBusyPointer;
+        /// Whether the desktop asks programs not to move things. May wait for the desktop: ask in an errand.
+        std::function<bool()> reducedMotion;
     };
 
     Boxes boxes;

@@ -2,6 +2,7 @@
 
 #include "platform/desktop.h"
 #include "platform/errors.h"
+#include "platform/motion.h"
 #include "platform/mounts.h"
 #include "platform/owningWindow.h"
 #include "platform/picture.h"
@@ -12,6 +13,7 @@
 
 #include <QApplication>
 #include <QClipboard>
+#include <QColorDialog>
 #include <QDesktopServices>
 #include <QDir>
 #include <QFileDialog>
@@ -67,6 +69,14 @@ bool ask(const QString& title, const QString& text)
     return runBox(QMessageBox::Question, title, text, QMessageBox::Yes | QMessageBox::No) == QMessageBox::Yes;
 }
 
+QColor chooseColour(const QString& title, const QColor& present)
+{
+    QColorDialog dialog(present, owningWindow());
+    dialog.setWindowTitle(title);
+    dialog.setOption(QColorDialog::DontUseNativeDialog);
+    return dialog.exec() == QDialog::Accepted ? dialog.selectedColor() : QColor();
+}
+
 QString chosenIn(QFileDialog& dialog)
 {
     dialog.setOption(QFileDialog::DontUseNativeDialog);
@@ -75,7 +85,9 @@ QString chosenIn(QFileDialog& dialog)
 
 QString chooseFolder(const QString& caption, const QString& startFolder)
 {
-    QFileDialog dialog(owningWindow(), caption, startFolder);
+    QFileDialog dialog(owningWindow(), caption.section(u'\n', 0, 0), startFolder);
+    if (const QString instruction = caption.section(u'\n', 1); !instruction.isEmpty())
+        dialog.setLabelText(QFileDialog::LookIn, instruction);
     dialog.setFileMode(QFileDialog::Directory);
     dialog.setOption(QFileDialog::ShowDirsOnly);
     return chosenIn(dialog);
@@ -133,6 +145,12 @@ void openDocument(const QString& path)
                                              QFileInfo(path).fileName()));
 }
 
+void openLink(const QString& address)
+{
+    if (!QDesktopServices::openUrl(QUrl(address)))
+        throw RuntimeError(fileNotFound);
+}
+
 void startProgram(const QString& path, const QStringList& arguments)
 {
     if (!QProcess::startDetached(path, arguments))
@@ -166,6 +184,7 @@ void installDesktop()
 {
     desktop.boxes.showMessage = showMessage;
     desktop.boxes.ask = ask;
+    desktop.boxes.chooseColour = chooseColour;
 
     desktop.files.chooseFolder = chooseFolder;
     desktop.files.chooseFile = chooseFile;
@@ -202,10 +221,12 @@ void installDesktop()
     };
 
     desktop.programs.openDocument = openDocument;
+    desktop.programs.openLink = openLink;
     desktop.programs.start = startProgram;
     desktop.programs.startCommand = startCommand;
 
     desktop.screen.setBusyPointer = setBusyPointer;
+    desktop.screen.reducedMotion = desktopWantsLessMotion;
     desktop.screen.pixelRatio = [] { return qGuiApp->devicePixelRatio(); };
     desktop.screen.size = [] { return QGuiApplication::primaryScreen()->size(); };
     desktop.screen.twipsPerPixelX = [] {

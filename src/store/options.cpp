@@ -1,7 +1,9 @@
 #include "store/options.h"
 
 #include "platform/desktop.h"
+#include "platform/errors.h"
 #include "platform/profileFile.h"
+#include "platform/values.h"
 #include "store/paths.h"
 #include "store/settings.h"
 
@@ -24,6 +26,14 @@ QString read(const Option& option)
     return readSetting(settingsFile(), latin(option.section), latin(option.key), latin(option.absent));
 }
 
+QStringList readSettings(const QList<Option>& options)
+{
+    QStringList values;
+    for (const Option& option : options)
+        values.append(read(option));
+    return values;
+}
+
 QString readFolder(const Option& option)
 {
     const QString path = read(option);
@@ -37,12 +47,12 @@ void write(const Option& option, const QString& value)
     writeSetting(settingsFile(), latin(option.section), latin(option.key), value);
 }
 
-void writeSettings(const QList<Setting>& settings)
+bool writeSettings(const QList<Setting>& settings)
 {
     QList<ProfileLine> lines;
     for (const auto& [option, value] : settings)
         lines.append({latin(option.section), latin(option.key), value});
-    writeProfile(lines, settingsFile());
+    return writeProfile(lines, settingsFile());
 }
 
 QString resolvedFolder(const QString& workingFolder)
@@ -50,10 +60,18 @@ QString resolvedFolder(const QString& workingFolder)
     return workingFolder == documentsWord ? desktop.files.documentsFolder() : workingFolder;
 }
 
-QString optionsLetter()
+QString optionsLetter() { return optionsLetterOf(read(option::optionsKey)); }
+
+QString optionsLetterOf(const QString& value)
 {
-    const QString value = read(option::optionsKey);
     const auto letter =
         std::find_if(value.begin(), value.end(), [](QChar candidate) { return candidate.isLetter(); });
     return letter == value.end() ? latin(option::optionsKey.absent) : QString(letter->toUpper());
+}
+
+qint16 soundStatusOf(const QString& value)
+{
+    qint16 status = 0;
+    ignoringErrors({[&] { status = toInteger(leadingNumber(value)); }});
+    return status;
 }

@@ -4,6 +4,7 @@
 
 #include <QList>
 #include <QString>
+#include <QStringList>
 
 /// A key of the settings file.
 struct Option {
@@ -52,6 +53,7 @@ inline constexpr Option optionsKey      {"Keys",        "Value",       "K"};    
 
 // How it is used.
 inline constexpr Option boardKeys       {"Access",      "Keys",        "0"};             // "1": keys reach the cards
+inline constexpr Option motion          {"Access",      "Motion",      "auto"};          // "0": nothing moves by itself
 inline constexpr Option displayScale    {"Display",     "Scale",       "auto"};          // or a factor of the program's size
 
 // Reports: "1" disables the button.
@@ -71,6 +73,9 @@ inline constexpr Option printerDevice   {"Printer",     "Device Name", ""};
 
 QString read(const Option& option);
 
+/// The values of all of them, in their order.
+QStringList readSettings(const QList<Option>& options);
+
 /// The same for a folder. A relative path is resolved against the program's folder, so that a copied program
 /// finds what was copied with it; an empty value and "MyDocs" are returned as they are.
 QString readFolder(const Option& option);
@@ -78,8 +83,9 @@ QString readFolder(const Option& option);
 /// Leaves all other settings. A file that can't be written is not reported.
 void write(const Option& option, const QString& value);
 
-/// Writes them all in one replacement of the file: a reader never finds some old and some new.
-void writeSettings(const QList<Setting>& settings);
+/// Writes them all in one replacement of the file: a reader never finds some old and some new. False when
+/// they could not be written.
+bool writeSettings(const QList<Setting>& settings);
 
 /// The value of a working folder that means the current user's documents.
 inline constexpr QLatin1StringView documentsWord("MyDocs");
@@ -90,3 +96,9 @@ QString resolvedFolder(const QString& workingFolder);
 /// The letter that opens the teacher options with Ctrl and Shift: the first letter of its setting as a
 /// capital, "K" when there is none. No value in the file locks a teacher out.
 QString optionsLetter();
+
+/// The same for a value of option::optionsKey that has been read already.
+QString optionsLetterOf(const QString& value);
+
+/// A value of option::sound as a number: 1 offers the sound page. 0 for a number outside 16 bits.
+qint16 soundStatusOf(const QString& value);

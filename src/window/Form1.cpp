@@ -17,6 +17,7 @@
 #include "platform/errors.h"
 #include "platform/picture.h"
 #include "window/mainSettings.h"
+#include "window/onceTimers.h"
 #include "window/shutDown.h"
 #include "window/startValues.h"
 #include "window/windowLayout.h"
@@ -27,6 +28,8 @@
 #include <QHBoxLayout>
 #include <QIcon>
 #include <QKeyEvent>
+
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -43,12 +46,12 @@ QPushButton* modeButton(const char* name, const char* tag, const QString& pictur
     return button;
 }
 
-QTimer* onceTimer(const char* name, int interval, QObject* parent)
+void addOnceTimer(const OnceTimer& once, QObject* parent)
 {
-    auto* timer = named(new QTimer(parent), name);
+    auto* timer = named(new QTimer(parent), once.name);
     timer->setSingleShot(true);
-    timer->setInterval(interval);
-    return timer;
+    timer->setInterval(once.interval);
+    QObject::connect(timer, &QTimer::timeout, parent, [call = once.call] { guarded(call); });
 }
 
 void follow(QWidget& control, const ControlState& state)
@@ -59,12 +62,38 @@ void follow(QWidget& control, const ControlState& state)
         button->setChecked(state.pressed);
 }
 
-/// Ctrl, Shift and the teacher's letter, without any other modifier.
+/// The Latin letter printed on a key beside the one of another alphabet; empty for any other key. Scan codes
+/// are those of X and Wayland.
+QString latinLetterAt(quint32 scanCode)
+{
+    constexpr std::pair<quint32, QLatin1StringView> rows[] = {
+        {24, "QWERTYUIOP"_L1}, {38, "ASDFGHJKL"_L1}, {52, "ZXCVBNM"_L1}};
+    for (const auto& [first, letters] : rows) {
+        if (scanCode >= first && scanCode < first + letters.size())
+            return letters.sliced(qsizetype(scanCode - first), 1);
+    }
+    return {};
+}
+
+/// The letters that the pressed key bears.
+QString lettersOf(const QKeyEvent& key)
+{
+    constexpr int lastLatin = 0x24f;
+    QString letters = key.text();
+    if (key.key() <= 0xffff) // a character, not a key such as Control itself
+        letters += QChar(char16_t(key.key()));
+    if (std::any_of(letters.begin(), letters.end(),
+                    [](QChar c) { return c.isLetter() && c.unicode() > lastLatin; }))
+        letters += latinLetterAt(key.nativeScanCode());
+    return letters.toUpper();
+}
+
+/// Ctrl, Shift and the teacher's letter, without any other modifier. A key that is held down counts once.
 bool opensTeacherOptions(const QKeyEvent& key)
 {
-    return key.modifiers() == (Qt::ControlModifier | Qt::ShiftModifier) &&
-           key.key() <= 0xffff && // a character, not a key such as Control itself
-           QString(QChar(char16_t(key.key())).toUpper()) == session.options.keysValue;
+    return key.modifiers() == (Qt::ControlModifier | Qt::ShiftModifier) && !key.isAutoRepeat() &&
+           !session.options.keysValue.isEmpty() && lettersOf(key).contains(session.options.keysValue) &&
+           !QApplication::activeModalWidget();
 }
 
 /// By default assistive technology takes a plain QWidget for an area; this makes the main window a window.
@@ -88,8 +117,6 @@ Form1::Form1()
     , cmdCopyGraph(named(new QPushButton(u"Copy Graph"_s), "cmdCopyGraph"))
     , tablePanel(new TablePanel(this))
     , MSChart(named(new ChartView(this), "MSChart"))
-    , tmrDelCard(onceTimer("tmrDelCard", 2, this))
-    , TmrShow(onceTimer("TmrShow", 3000, this))
 {
     QAccessible::installFactory(windowForReaders);
     setMinimumSize(leastSize);
@@ -126,7 +153,8 @@ void Form1::connectControls()
             copyGraph();
     });
     MSChart->pressed = closeMenu; // as on the bare board
-    connect(tmrDelCard, &QTimer::timeout, this, [] { guarded(rereadDeleteOption); });
+    for (const OnceTimer& once : onceTimers())
+        addOnceTimer(once, this);
     qApp->installEventFilter(this); // sees every key before the focused control
 }
 
@@ -150,10 +178,12 @@ void Form1::load()
     desktop.screen.setBusyPointer(false);
     loadMainSettings();
     if (session.options.txtShow == "True"_L1)
-        TmrShow->start();
-    tmrDelCard->start();
+        startTimer("TmrShow");
+    startTimer("tmrDelCard");
     showControls();
 }
+
+void Form1::startTimer(const char* name) { findChild<QTimer*>(QLatin1StringView(name))->start(); }
 
 void Form1::layoutWindow()
 {
@@ -232,6 +262,8 @@ bool Form1::eventFilter(QObject* watched, QEvent* event)
         return false;
     guarded([] {
         mainView.setRefresh(u"Off"_s);
+        session.run.stopped = true; // the cards stay where they are
+        mainView.unloadSpeedWindow();
         mainView.openTeacherOptions();
     });
     return true;

@@ -24,6 +24,8 @@ public:
     void layoutWindow();
     /// Updates the controls from their states in the session.
     void showControls();
+    /// Starts the timer of that name in the table of window/onceTimers.h.
+    void startTimer(const char* name);
 
     BoardWidget* const board;
     QWidget* const toolbarBlock;
@@ -36,8 +38,6 @@ public:
     QPushButton* const cmdCopyGraph;
     TablePanel* const tablePanel;
     ChartView* const MSChart; // over board and table, under the menu
-    QTimer* const tmrDelCard; // 2 ms, single shot: reads its option again
-    QTimer* const TmrShow;    // 3000 ms, single shot: does nothing
 
 protected:
     void resizeEvent(QResizeEvent* event) override;

@@ -14,6 +14,7 @@
 #include "editing/editCard.h"
 #include "editing/newCommand.h"
 #include "guidance/tutorial.h"
+#include "options/TeacherOps.h"
 #include "paint/picEdit.h"
 #include "platform/desktop.h"
 #include "tools/FrmSpeed.h"
@@ -76,6 +77,8 @@ void connectCommands()
     mainView.watchTutorial = watchTutorial;
     mainView.showClues = showClues;
     mainView.closeClues = unload<frmQuestion>;
+    mainView.openTeacherOptions = openTeacherOptions;
+    mainView.startTimer = inWindow([](Form1& window, const char* name) { window.startTimer(name); });
 }
 
 } // namespace

@@ -1,6 +1,8 @@
 #include "window/mainSettings.h"
 
+#include "core/mainView.h"
 #include "core/session.h"
+#include "options/teacherOptions.h"
 #include "platform/desktop.h"
 #include "platform/errors.h"
 #include "platform/values.h"
@@ -33,10 +35,7 @@ void takeDatabaseStatus()
 void takeCaseSensitivity()
 {
     session.options.SensBox = read(option::caseSensitive);
-    if (session.options.SensBox == "True"_L1)
-        session.options.caseSensitive = true;
-    else if (session.options.SensBox == "False"_L1)
-        session.options.caseSensitive = false;
+    setCaseSensitivity(session.options.SensBox);
 }
 
 } // namespace
@@ -67,3 +66,21 @@ void loadMainSettings()
 }
 
 void rereadDeleteOption() { session.options.txtDelRandomCard = read(option::scatterCards); }
+
+void rereadRefreshOption()
+{
+    session.options.RefreshBox = read(option::hideRefresh);
+    session.window.refreshCheck.visible = session.window.PicRef.visible =
+        session.options.RefreshBox != "1"_L1;
+    mainView.showControls();
+}
+
+void rereadClueOption()
+{
+    session.options.txtClue = read(option::clues);
+    if (session.options.txtClue == "1"_L1 || session.options.txtClue == "0"_L1)
+        session.window.cmdQuestion.visible = session.options.txtClue == "1"_L1;
+    mainView.showControls();
+}
+
+void rereadLockOption() { session.options.txtDBLock = read(option::lockDatabaseNow); }

@@ -5,5 +5,10 @@
 /// can't be selected is reported; reading goes on.
 void loadMainSettings();
 
-/// Reads the option again that scatters the remaining cards after a deletion.
+/// Each reads one option again and applies it: whether the remaining cards are scattered after a deletion,
+/// whether the refresh and the clues are offered, whether the card editor is locked. The last one reads a key
+/// of its own, which is never written, so that the lock is off until the program is started again.
 void rereadDeleteOption();
+void rereadRefreshOption();
+void rereadClueOption();
+void rereadLockOption();

@@ -50,6 +50,7 @@ Desktop recordingDesktop()
         recorded.messages.append(title + u'|' + text);
         return nextOf(recorded.answers, false);
     };
+    d.boxes.chooseColour = [](const QString&, const QColor&) { return QColor(chosenOrNone()); };
     d.files.chooseFolder = [](const QString&, const QString&) { return chosenOrNone(); };
     d.files.chooseFile = [](const QString&, const QString&, const QString&) { return chosenOrNone(); };
     d.files.choosePicture = d.files.chooseFile;
@@ -85,11 +86,13 @@ Desktop recordingDesktop()
     d.clipboard.copyText = [](const QString&) {};
     d.clipboard.copyPicture = [](const QImage&) {};
     d.programs.openDocument = [](const QString& path) { recorded.started.append(path); };
+    d.programs.openLink = d.programs.openDocument;
     d.programs.start = [](const QString& path, const QStringList& arguments) {
         recorded.started.append((QStringList(path) + arguments).join(u' '));
     };
     d.programs.startCommand = [](const QString& commandLine) { recorded.started.append(commandLine); };
     d.screen.setBusyPointer = [](bool busy) { recorded.busy = busy; };
+    d.screen.reducedMotion = [] { return false; };
     d.screen.size = [] { return QSize(1280, 800); };
     d.screen.twipsPerPixelX = [] { return 15.0; };
     d.screen.twipsPerPixelY = [] { return 15.0; };

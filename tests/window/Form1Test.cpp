@@ -166,13 +166,14 @@ TEST_F(MainWindow, ASizeWithoutRoomIsRefusedInWords)
 
 TEST_F(MainWindow, TheTimersReadTheirOptionsOnce)
 {
-    EXPECT_FALSE(window.TmrShow->isActive());
+    const auto timer = [](const char* name) { return form<Form1>().findChild<QTimer*>(QLatin1String(name)); };
+    EXPECT_FALSE(timer("TmrShow")->isActive());
     unload<Form1>();
     writeSetting(settingsFile(), u"DeleteCard"_s, u"Random"_s, u"0"_s);
     writeSetting(settingsFile(), u"Startup"_s, u"State"_s, u"True"_s);
-    EXPECT_TRUE(form<Form1>().TmrShow->isActive());
-    EXPECT_EQ(form<Form1>().TmrShow->interval(), 3000);
-    EXPECT_TRUE(QTest::qWaitFor([] { return !form<Form1>().tmrDelCard->isActive(); }));
+    EXPECT_TRUE(timer("TmrShow")->isActive());
+    EXPECT_EQ(timer("TmrShow")->interval(), 3000);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !timer("tmrDelCard")->isActive(); }));
     EXPECT_EQ(session.options.txtDelRandomCard, u"0"_s);
 }
 
