@@ -232,6 +232,7 @@ void TeacherOps::fillMisc()
     KeyCombo->setEditable(true);
     KeyCombo->setInsertPolicy(QComboBox::NoInsert);
     KeyCombo->setCompleter(nullptr);
+    KeyCombo->lineEdit()->setAccessibleName(KeyCombo->accessibleName());
     for (char16_t letter = u'A'; letter <= u'Z'; ++letter)
         KeyCombo->addItem(QString(QChar(letter)));
     TipBox1->setObjectName(u"TipBox1"_s);
@@ -305,7 +306,8 @@ void TeacherOps::load()
         tickBoxes[QLatin1StringView(tick.name)]->setChecked(read.*tick.box == QLatin1StringView(tick.ticked));
     cols->showColour(read.ColText);
     colsBord->showColour(read.ColText2);
-    KeyCombo->setCurrentText(read.KeyCombo);
+    KeyCombo->setCurrentIndex(KeyCombo->findText(read.KeyCombo));
+    KeyCombo->setEditText(read.KeyCombo); // which need not be in the list
     hidden->txtSaveDir->setText(read.txtSaveDir);
     (read.WKDPathTxt == documentsWord ? Opt1 : Opt2)->setChecked(true);
     WorkingDirTxt->setText(read.WKDPathTxt);
@@ -330,7 +332,7 @@ void TeacherOps::showBackground()
 
 void TeacherOps::chooseFolder()
 {
-    const QString start = resolvedFolder(WorkingDirTxt->text());
+    const QString start = resolvedFolder(fullFolder(WorkingDirTxt->text()));
     const QString folder =
         desktop.files.chooseFolder(u"Set Working Directory\nBrowse to Set Working Directory"_s, start);
     if (!folder.isEmpty() && isLoaded<TeacherOps>())

@@ -34,9 +34,10 @@ QStringList readSettings(const QList<Option>& options)
     return values;
 }
 
-QString readFolder(const Option& option)
+QString readFolder(const Option& option) { return fullFolder(read(option)); }
+
+QString fullFolder(const QString& path)
 {
-    const QString path = read(option);
     if (path.isEmpty() || path == documentsWord || isAbsolute(path))
         return path;
     return joinPath(desktop.files.programFolder(), path);

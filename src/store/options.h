@@ -80,6 +80,9 @@ QStringList readSettings(const QList<Option>& options);
 /// finds what was copied with it; an empty value and "MyDocs" are returned as they are.
 QString readFolder(const Option& option);
 
+/// The same for a value that has been read already.
+QString fullFolder(const QString& path);
+
 /// Leaves all other settings. A file that can't be written is not reported.
 void write(const Option& option, const QString& value);
 

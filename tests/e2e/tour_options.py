@@ -20,7 +20,7 @@ WRITTEN = {
     ("Clue", "Status"): "", ("Border", "Colour"): "65280", ("Cards", "Colour"): "16711680",
     ("CaseSens", "Status"): "True", ("Sound", "Status"): "1", ("DeleteCard", "Random"): "0",
     ("Refresh", "Visible"): "1", ("RO", "Status"): "RO", ("LockDB", "Status"): "1", ("Keys", "Value"): "Q",
-    ("Working Dir", "Path"): "samples", ("Printer", "Name"): "-1", ("Background", "Colour"): "&H8000000F",
+    ("Working Dir", "Path"): "samples", ("Printer", "Name"): "-1", ("Background", "Colour"): "14078140",
 }
 
 
@@ -110,7 +110,7 @@ def by_keyboard_alone(tour):
 
 def stop_a_run(tour):
     tour.choose("Data", "Sort...")
-    tour.pick(tour.find("combo box", within=tour.dialog("Sort Cards")), "Animal")
+    tour.pick(tour.find("combo box", within=tour.dialog("Sort Cards")), "Home")
     tour.answer("Sort Cards", "OK")
     tour.window("Speed")
     open_options(tour, "ctrl+shift+q")
@@ -156,7 +156,8 @@ with Tour("options") as tour:
 
     # Without a folder
     open_options(tour, "ctrl+shift+q")
-    tour.click(tour.find("radio button", "Custom Folder"))
+    for choice in ('"My Documents" Folder of this Computer', "Custom Folder"):
+        tour.click(tour.find("radio button", choice))
     turn_to(tour, "Reporting")
     tour.click(tour.find("check box", "Show Database Clues Button"))
     tour.answer(TITLE, "OK")
