@@ -47,6 +47,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
     file.replace(0, 2, "BM");
     const auto first = decoded(file, 0x11);
     const auto second = decoded(file, 0xEE);
+    mustHold(first || !seedIsValid, "a valid bitmap is a picture");
     mustHold(first == second, "no pixel comes out of old memory");
     return 0;
 }

@@ -12,6 +12,8 @@
 
 using namespace Qt::StringLiterals;
 
+bool seedIsValid = false;
+
 void mustHold(bool condition, const char* text)
 {
     if (condition)

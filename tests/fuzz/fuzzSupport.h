@@ -12,6 +12,9 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size);
 /// Aborts with the text when the condition is false, so that the fuzzer keeps the input.
 void mustHold(bool condition, const char* text);
 
+/// Whether the input is one that a reader must take: set by the replay for the seeds in a folder "valid".
+extern bool seedIsValid;
+
 /// The fuzzer's bytes.
 QByteArray inputBytes(const uint8_t* data, size_t size);
 

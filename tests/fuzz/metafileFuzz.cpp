@@ -35,6 +35,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
     startApplication();
     const QByteArray file = inputBytes(data, size);
     const auto first = played(file);
+    mustHold(first || !seedIsValid, "a valid metafile is a picture");
     mustHold(!first || (first->width() <= 2000 && first->height() <= 2000),
              "the picture is no larger than told");
     mustHold(first == played(file), "a drawing is always the same");

@@ -1,7 +1,8 @@
-// Runs a target on every file in the folders given as arguments.
+// Runs a target on every file below the folders given as arguments.
 #include "fuzz/fuzzSupport.h"
 
 #include <QDir>
+#include <QDirIterator>
 #include <QFile>
 
 #include <cstdio>
@@ -10,9 +11,10 @@ int main(int argc, char** argv)
 {
     int inputs = 0;
     for (int i = 1; i < argc; ++i) {
-        const auto files = QDir(QString::fromLocal8Bit(argv[i])).entryInfoList(QDir::Files);
-        for (const QFileInfo& info : files) {
-            QFile file(info.filePath());
+        QDirIterator files(QString::fromLocal8Bit(argv[i]), QDir::Files, QDirIterator::Subdirectories);
+        while (files.hasNext()) {
+            QFile file(files.next());
+            seedIsValid = files.fileInfo().dir().dirName() == QLatin1String("valid");
             mustHold(file.open(QIODevice::ReadOnly), "a seed can be read");
             const QByteArray bytes = file.readAll();
             LLVMFuzzerTestOneInput(reinterpret_cast<const uint8_t*>(bytes.constData()), size_t(bytes.size()));
