@@ -134,20 +134,3 @@ TEST_F(Graphs, TakePointsFromTheCardsAndBarsFromTheTable)
     EXPECT_EQ(chart.data(2, 1), 123456800);
     EXPECT_EQ(chart.rowLabel(3), u"dog"_s);
 }
-
-TEST_F(Graphs, AreCopiedWhateverFails)
-{
-    QStringList steps;
-    desktop.clipboard.clear = [&] {
-        steps << u"clear"_s;
-        throw RuntimeError(deviceError);
-    };
-    desktop.clipboard.copyPicture = [&](const QImage& picture) { steps << QString::number(picture.width()); };
-    mainView.chartPicture = [] { return QImage(7, 7, QImage::Format_RGB32); };
-    copyGraph();
-    EXPECT_EQ(steps, QStringList({u"clear"_s, u"7"_s}));
-    EXPECT_EQ(recorded.beeps, 1);
-    EXPECT_EQ(recorded.messages,
-              QStringList(u"Notice|The Graph has been copied into clipboard. Please Use Windows Paint (or "
-                          "similar paint tool) to paste the graph."_s));
-}

@@ -3,7 +3,7 @@
 #include "analysis/analysisCommands.h"
 #include "controls/forms.h"
 #include "support/cards.h"
-#include "support/freshStart.h"
+#include "support/dialogs.h"
 
 #include <QComboBox>
 #include <QLabel>
@@ -11,7 +11,6 @@
 #include <QRadioButton>
 #include <QTabBar>
 #include <QTabWidget>
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 
@@ -19,85 +18,28 @@ namespace {
 
 class GraphWizard : public Fresh {
 protected:
-    GraphWizard()
-    {
-        session.numFields = 2;
-        session.fieldName[1] = u"Kind"_s;
-        session.fieldName[2] = u"Legs"_s;
-        cards({u"duck"_s, u"cat"_s, u"ant"_s});
-        session.fieldType[2] = u"123"_s;
-        session.cardValue[1][2] = u"2"_s;
-        session.cardValue[2][2] = u"4"_s;
-        session.cardValue[3][2] = u"4"_s;
-    }
+    GraphWizard() { animals({u"duck"_s, u"cat"_s, u"ant"_s}, {u"2"_s, u"4"_s, u"4"_s}); }
 
     void open(const std::function<void()>& act)
     {
-        recorded.dialogSteps.push_back([this, act](QDialog& dialog) {
-            wizard = static_cast<graphWiz*>(&dialog);
+        inDialog<graphWiz>([this, act](graphWiz& dialog) {
+            wizard = &dialog;
             act();
         });
         makeGraph();
     }
 
-    static void press(QWidget* control) { QTest::mouseClick(control, Qt::LeftButton); }
-    void pressOK() const { press(wizard->findChild<QPushButton*>(u"OKbut"_s)); }
     QString page() const { return wizard->property("Tag").toString(); }
-
-    /// Return on each page up to the last, then OK.
-    void goThrough(int field, int grouping) const
-    {
-        wizard->fieldCombo->setCurrentIndex(field);
-        QTest::keyClick(wizard, Qt::Key_Return);
-        QTest::keyClick(wizard, Qt::Key_Return);
-        if (page() == "2"_L1) {
-            wizard->groupCount[std::size_t(grouping)]->click();
-            QTest::keyClick(wizard, Qt::Key_Return);
-        }
-        EXPECT_EQ(page(), u"3"_s);
-    }
-
-    static QString bars()
-    {
-        QStringList found;
-        const Chart& chart = session.graph.chart;
-        for (int row = 1; row <= chart.rowCount(); ++row)
-            found << chart.rowLabel(row) + u'=' + chartNumber(chart.data(row, 1));
-        return found.join(u' ');
-    }
 
     graphWiz* wizard = nullptr;
 };
 
 } // namespace
 
-TEST_F(GraphWizard, DrawsWhatItWasAsked)
-{
-    const struct {
-        int field, grouping;
-        QString bars;
-    } cases[] = {
-        {0, 0, u"ant=1 cat=1 duck=1"_s},
-        {1, 0, u"2=1 4=2"_s},
-        {1, 1, u"ant=4 cat=4 duck=2"_s},
-    };
-    for (const auto& [field, grouping, expected] : cases) {
-        session.window.MSChart.visible = false;
-        open([&, f = field, g = grouping] {
-            goThrough(f, g);
-            QTest::keyClick(wizard, Qt::Key_Return);
-        });
-        EXPECT_TRUE(session.window.MSChart.visible && session.window.cmdCopyGraph.visible);
-        EXPECT_EQ(bars(), expected);
-        EXPECT_EQ(session.graph.chart.titleText + session.graph.chart.axis[0].title, u"TitleAxis"_s);
-        EXPECT_TRUE(isLoaded<graphWiz>());
-    }
-}
-
 TEST_F(GraphWizard, SkipsTheGroupingPageOfATextFieldBothWaysAndCountsInGroups)
 {
     open([this] {
-        auto* ok = wizard->findChild<QPushButton*>(u"OKbut"_s);
+        auto* ok = &part(*wizard, "OKbut");
         EXPECT_FALSE(wizard->prevBut->isEnabled() || ok->isEnabled());
         wizard->fieldCombo->setCurrentIndex(1);
         press(wizard->nextBut);
@@ -173,7 +115,8 @@ TEST_F(GraphWizard, OffersThreeKindsUntilTheTabIsPressed)
 TEST_F(GraphWizard, EmptiesATitleOnAClickOnlyAndBeginsAnewEachTime)
 {
     open([this] {
-        goThrough(0, 0);
+        for (int pages = 0; pages < 2; ++pages)
+            QTest::keyClick(wizard, Qt::Key_Return);
         EXPECT_EQ(wizard->graphTitle->selectedText(), u"Title"_s);
         QTest::keyClick(wizard->graphTitle, Qt::Key_Tab);
         EXPECT_EQ(wizard->graphTitle->text(), u"Title"_s);
@@ -184,7 +127,7 @@ TEST_F(GraphWizard, EmptiesATitleOnAClickOnlyAndBeginsAnewEachTime)
         press(wizard->graphTitle);
         EXPECT_EQ(wizard->graphTitle->text(), u"Pets"_s);
         press(wizard->graphYTitle);
-        pressOK();
+        press(*wizard, "OKbut");
     });
     const Chart& chart = session.graph.chart;
     EXPECT_EQ(chart.titleText + u'|' + chart.axis[0].title + u'|' + chart.axis[1].title, u"Pets|Axis|"_s);

@@ -90,16 +90,3 @@ TEST_F(GroupTables, SortByNumberOnlyWhereNumbersAreCounted)
     sortGroups(1);
     EXPECT_EQ(rows(), QStringList({u"A=1"_s, u"B=1"_s, u"a=1"_s, u"b=1"_s}));
 }
-
-TEST_F(GroupTables, TellTheLargestNumber)
-{
-    cards({u"-5"_s, u"-3"_s}, u"123"_s);
-    listValues(1);
-    findGraphMax();
-    EXPECT_EQ(session.graph.graphMaxValue, -3);
-    session.cardValue[1][2] = u"80"_s;
-    session.graph.graphAxisField[1] = 2;
-    session.graph.graphAxisField[2] = 1;
-    findScatterMax();
-    EXPECT_EQ(session.graph.graphMaxValue, -3) << "the X field doesn't count";
-}

@@ -27,13 +27,6 @@ QRect extentOf(const QImage& image, QRgb colour)
     return extent;
 }
 
-QImage plain(QSize size, QColor colour)
-{
-    QImage image(size, QImage::Format_RGB32);
-    image.fill(colour);
-    return image;
-}
-
 constexpr QRgb black = 0xff000000, blue = 0xff0000ff, red = 0xffff0000, white = 0xffffffff;
 
 class Faces : public Fresh {
@@ -50,40 +43,18 @@ protected:
 
 } // namespace
 
-TEST_F(Faces, HaveTheSurfacesMeasuresInAFreshSessionAndNotTheCardSizes)
+TEST_F(Faces, StretchTheWholePictureBoxOverTheCardWhoseMeasuresAreTheSurfaces)
 {
     session.cardSize = 0;
-    drawCardFace(1);
-    EXPECT_EQ(face().size(), QSize(82, 62));
-    EXPECT_EQ(session.box[1].width, 82);
-    EXPECT_EQ(session.box[1].height, 62);
-    EXPECT_EQ(session.box[1].tooltip, u"Ina"_s);
-    EXPECT_EQ(session.editor.shrinkdummy.image, face());
-}
-
-TEST_F(Faces, StretchThePictureOverTheWholeCard)
-{
-    session.cardValue[1][1].clear();
-    QImage picture = plain(QSize(159, 120), Qt::yellow);
-    for (int y = 60; y < 120; ++y) {
-        for (int x = 0; x < 159; ++x)
-            picture.setPixel(x, y, blue);
-    }
-    session.editor.Picture1.image = picture;
-    drawCardFace(1);
-    EXPECT_EQ(face().pixel(0, 0), QColor(Qt::yellow).rgb());
-    EXPECT_EQ(face().pixel(81, 61), blue);
-    EXPECT_NEAR(extentOf(face(), blue).top(), 31, 1);
-}
-
-TEST_F(Faces, ShowASmallPictureUnscaledInTheCornerOfAWhiteOne)
-{
     session.cardValue[1][1].clear();
     session.editor.Picture1.image = plain(QSize(80, 60), Qt::blue); // half of the picture box
     drawCardFace(1);
+    EXPECT_EQ(face().size(), QSize(82, 62)) << "not the card size's";
+    EXPECT_EQ(QSizeF(session.box[1].width, session.box[1].height), QSizeF(82, 62));
+    EXPECT_EQ(session.editor.shrinkdummy.image, face());
     EXPECT_EQ(face().pixel(2, 2), blue);
-    EXPECT_EQ(face().pixel(60, 45), white);
     EXPECT_NEAR(extentOf(face(), blue).right(), 41, 2);
+    EXPECT_EQ(face().pixel(60, 45), white);
 }
 
 TEST_F(Faces, PrintTheLabelInItsColourOverABlackShadow)

@@ -41,7 +41,7 @@ TEST_F(Places, AreWrittenAndReadInFourDigitHalves)
     EXPECT_EQ(session.box[1].top, 0);
 }
 
-TEST_F(Places, AtRandomLieBelowTheMenuAndTakeTheFirstFreeOne)
+TEST_F(Places, AtRandomTakeTheFirstFreeOneOfTwentyOneBelowTheMenu)
 {
     cardAt(1, 40, 100); // where the first attempt puts card 2
     cardAt(2, 0, 0);
@@ -50,14 +50,9 @@ TEST_F(Places, AtRandomLieBelowTheMenuAndTakeTheFirstFreeOne)
     EXPECT_EQ(session.box[2].left, (1000 - 200) * 0.5 + 40);
     EXPECT_EQ(session.box[2].top, (700 - 100 - 90) * 0.25 + 100);
     EXPECT_TRUE(recorded.randoms.empty());
-}
 
-TEST_F(Places, AtRandomStandAfterTwentyTriesThoughTheyOverlap)
-{
     session.board.width = 200; // every attempt gives a left of 40
     session.board.height = 190;
-    cardAt(1, 40, 100);
-    cardAt(2, 0, 0);
     recorded.randoms.assign(44, 0.0);
     placeCardAtRandom(2);
     EXPECT_EQ(recorded.randoms.size(), 2U) << "the first place and twenty more";

@@ -73,25 +73,3 @@ TEST_F(ChartViews, AreWalkedThroughWithTheKeys)
     view.setChart(shorter);
     EXPECT_EQ(view.chosenMark(), -1);
 }
-
-TEST_F(ChartViews, AreAListOfTheirValuesToAScreenReader)
-{
-    QAccessibleInterface* list = QAccessible::queryAccessibleInterface(&view);
-    EXPECT_EQ(list->role(), QAccessible::List);
-    EXPECT_EQ(list->text(QAccessible::Name), u"Pets"_s);
-    EXPECT_EQ(list->text(QAccessible::Description), u"Bar chart of 3 values"_s);
-    ASSERT_EQ(list->childCount(), 3);
-    QAccessibleInterface* dogs = list->child(1);
-    EXPECT_EQ(dogs->text(QAccessible::Name), u"dogs: 4"_s);
-    EXPECT_EQ(dogs->rect(), QRect(view.mapToGlobal(view.layout().marks[1].place().toAlignedRect().topLeft()),
-                                  view.layout().marks[1].place().toAlignedRect().size()));
-    EXPECT_EQ(list->indexOfChild(dogs), 1);
-    EXPECT_EQ(dogs->parent(), list);
-    QTest::keyClick(&view, Qt::Key_Home);
-    EXPECT_EQ(list->focusChild(), list->child(0));
-    EXPECT_TRUE(list->child(0)->state().focused);
-
-    view.setChart(Chart());
-    EXPECT_EQ(list->childCount(), 0);
-    EXPECT_EQ(list->child(0), nullptr);
-}

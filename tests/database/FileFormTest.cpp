@@ -5,14 +5,12 @@
 #include "core/session.h"
 #include "database/chooseDatabase.h"
 #include "store/settings.h"
-#include "support/freshStart.h"
+#include "support/dialogs.h"
 #include "support/slowMount.h"
 
-#include <QAccessible>
 #include <QLabel>
 #include <QLineEdit>
 #include <QSlider>
-#include <QTest>
 #include <QToolButton>
 
 using namespace Qt::StringLiterals;
@@ -51,10 +49,7 @@ protected:
     /// test's folder.
     static QString chosen(const std::function<void(FileForm&)>& act)
     {
-        recorded.dialogSteps.push_back([act](QDialog& dialog) {
-            auto& files = dynamic_cast<FileForm&>(dialog);
-            act(files);
-        });
+        inDialog<FileForm>(act);
         const QString path = chooseDatabase(testFolder() + u"home"_s);
         return path.startsWith(testFolder()) ? path.mid(testFolder().size()) : path;
     }
@@ -81,11 +76,6 @@ protected:
         QTest::mouseDClick(icon(files, kind, name), Qt::LeftButton);
     }
 
-    static void click(FileForm& files, const char* button)
-    {
-        QTest::mouseClick(files.findChild<QPushButton*>(QLatin1String(button)), Qt::LeftButton);
-    }
-
     static bool comesTo(FileForm& files, const QString& place)
     {
         return QTest::qWaitFor([&] { return files.CurDirBox->text() == place; }, patience);
@@ -99,20 +89,7 @@ protected:
 
 } // namespace
 
-TEST_F(ChoosingADatabase, ADoubleClickOpensADatabaseAndWalksIntoAFolder)
-{
-    EXPECT_EQ(chosen([](FileForm& files) { doubleClick(files, "database", "zoo"); }), u"home/zoo"_s);
-    EXPECT_EQ(session.dialogResult, u"OK"_s);
-    EXPECT_FALSE(isLoaded<FileForm>());
-
-    EXPECT_EQ(chosen([](FileForm& files) {
-                  doubleClick(files, "folder", "class 2");
-                  doubleClick(files, "database", "pets");
-              }),
-              u"home/class 2/pets"_s);
-}
-
-TEST_F(ChoosingADatabase, OKTakesWhatIsChosenAndNothingElse)
+TEST_F(ChoosingADatabase, OKWaitsForADatabaseAndAMissingDiscIsTold)
 {
     EXPECT_EQ(chosen([](FileForm& files) {
                   QTest::mouseClick(icon(files, "folder", "class 1"), Qt::LeftButton);
@@ -124,7 +101,7 @@ TEST_F(ChoosingADatabase, OKTakesWhatIsChosenAndNothingElse)
                   QTest::mouseClick(icon(files, "folder", "class 1"), Qt::LeftButton);
                   EXPECT_TRUE(files.iconBox[2]->isChecked() && !files.iconBox[0]->isChecked());
                   EXPECT_TRUE(files.iconBox[2]->hasFocus());
-                  click(files, "OKbut");
+                  press(files, "OKbut");
                   EXPECT_FALSE(files.isVisible());
               }),
               u"home/zoo"_s);
@@ -134,16 +111,20 @@ TEST_F(ChoosingADatabase, TheDrivesAreAboveEveryRootAndAMissingDiscIsTold)
 {
     EXPECT_EQ(chosen([](FileForm& files) {
                   EXPECT_TRUE(comesTo(files, u"(HOME)"_s));
-                  click(files, "upFoldBut");
+                  press(files, "upFoldBut");
                   EXPECT_TRUE(comesTo(files, u"My Computer"_s));
                   doubleClick(files, "drive", "(CDROM)");
                   EXPECT_TRUE(QTest::qWaitFor([] { return !recorded.messages.isEmpty(); }, patience));
                   EXPECT_EQ(recorded.messages.last(), u"Error|Make sure the disc is in the drive!"_s);
-                  EXPECT_EQ(files.CurDirBox->text(), u"My Computer"_s);
                   doubleClick(files, "drive", "(HOME)");
-                  doubleClick(files, "database", "zoo");
+                  icon(files, "database", "zoo");
+                  press(files.fileNameBox[2]);
+                  EXPECT_EQ(files.SelectedFnameBox->text(), u"zoo"_s);
+                  press(files, "OKbut");
               }),
               u"home/zoo"_s);
+    EXPECT_EQ(session.dialogResult, u"OK"_s);
+    EXPECT_FALSE(isLoaded<FileForm>());
 }
 
 TEST_F(ChoosingADatabase, TheKeyboardDoesItAll)
@@ -184,14 +165,14 @@ TEST_F(ChoosingADatabase, TheSliderMovesByOneItem)
         QTest::keyClick(files.iconBox[7], Qt::Key_End);
         EXPECT_EQ(files.fileNameBox[1]->text(), u"zoo"_s);
         EXPECT_FALSE(files.iconBox[2]->isVisible());
-        click(files, "CancelBut");
+        press(files, "CancelBut");
     });
 }
 
 TEST_F(ChoosingADatabase, TheSystemsChooserAnswersOnlyWhenAFolderWasChosen)
 {
     recorded.chosen = {testFolder() + u"home/class 1"_s, QString()};
-    const auto browse = [](FileForm& files) { click(files, "StdDiBoxBut"); };
+    const auto browse = [](FileForm& files) { press(files, "StdDiBoxBut"); };
     EXPECT_EQ(chosen(browse), u"home/class 1"_s);
     EXPECT_EQ(session.dialogResult, u"DBOK"_s);
     EXPECT_EQ(chosen([&](FileForm& files) {
@@ -200,7 +181,7 @@ TEST_F(ChoosingADatabase, TheSystemsChooserAnswersOnlyWhenAFolderWasChosen)
                   browse(files);
                   EXPECT_EQ(files.F1, u"0"_s);
                   EXPECT_TRUE(files.isVisible());
-                  click(files, "OKbut");
+                  press(files, "OKbut");
               }),
               u"home/class 2/pets"_s);
 }
@@ -233,16 +214,15 @@ TEST_F(ChoosingADatabase, AQuickDoubleClickInASlowFolderNeverEntersADatabase)
     if (slow.path().isEmpty())
         GTEST_SKIP() << slow.reason().toStdString();
     setting("Working Dir", "Path", slow.path());
-    recorded.dialogSteps.push_back([](QDialog& dialog) {
-        auto& files = dynamic_cast<FileForm&>(dialog);
+    inDialog<FileForm>([](FileForm& files) {
         doubleClick(files, "folder", "zoo"); // not known yet to be a database
         EXPECT_TRUE(QTest::qWaitFor([&] { return !files.isVisible(); }, patience));
     });
     EXPECT_EQ(chooseDatabase({}), slow.path() + u"/zoo"_s);
 
-    recorded.dialogSteps.push_back([&](QDialog& dialog) {
+    inDialog<FileForm>([&](FileForm& files) {
         slow.hold(); // Cancel must not wait for a folder that no longer answers
-        click(dynamic_cast<FileForm&>(dialog), "CancelBut");
+        press(files, "CancelBut");
     });
     EXPECT_EQ(chooseDatabase({}), cancelled);
 }

@@ -8,6 +8,7 @@
 #include "editing/newCommand.h"
 #include "guidance/tutorial.h"
 #include "store/settings.h"
+#include "support/dialogs.h"
 #include "support/files.h"
 
 #include <QAction>
@@ -15,7 +16,6 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QRadioButton>
-#include <QTest>
 #include <QToolButton>
 
 using namespace Qt::StringLiterals;
@@ -23,13 +23,6 @@ using namespace Qt::StringLiterals;
 namespace {
 
 const QString documents = u"Documents"_s;
-
-/// Clicks a button and runs the events that it queued.
-void press(QAbstractButton* button)
-{
-    QTest::mouseClick(button, Qt::LeftButton);
-    QCoreApplication::processEvents();
-}
 
 QPushButton* finishButton(const NewForm& wizard) { return wizard.findChild<QPushButton*>(u"BtnOK"_s); }
 
@@ -56,66 +49,13 @@ protected:
     }
 
     /// The pupil's actions in the design dialog that follows.
-    static void thenDesign(const std::function<void(DesignForm&)>& step)
-    {
-        recorded.dialogSteps.push_back([step](QDialog& dialog) { step(dynamic_cast<DesignForm&>(dialog)); });
-    }
+    static void thenDesign(const std::function<void(DesignForm&)>& step) { inDialog<DesignForm>(step); }
 
     static QStringList madeFolders()
     {
         return QDir(inTestFolder(documents)).entryList(QDir::Dirs | QDir::NoDotAndDotDot);
     }
 };
-
-TEST_F(NewDatabase, IsMadeDesignedAndOpenLikeAnyOther)
-{
-    session.numFields = 7;
-    session.numCards = 5;
-    session.databaseStatus = u"RO"_s;
-    session.menu.menuItemState[1][1] = u"Don'tShow"_s;
-    session.backgroundPicture = u"map.bmp"_s;
-    session.fieldName[1] = u"left over"_s;
-    for (ControlState* control : {&session.menu.MenuTop[1], &session.menu.MenuTop[3],
-                                  &session.window.refreshCheck, &session.window.btnTable})
-        control->enabled = false;
-
-    wizard([](NewForm& dialog) {
-        EXPECT_EQ(dialog.windowTitle(), u"New Database Wizard"_s);
-        EXPECT_TRUE(dialog.F1->isVisible());
-        EXPECT_FALSE(finishButton(dialog)->isEnabled());
-        QTest::keyClick(&dialog, Qt::Key_Return);
-        EXPECT_EQ(dialog.focusWidget(), dialog.DBName);
-        QTest::keyClicks(dialog.DBName, u"Our pets"_s);
-        QTest::keyClick(&dialog, Qt::Key_Return);
-        QCoreApplication::processEvents();
-        EXPECT_EQ(dialog.lblCap->text(), u"New Database Location"_s);
-        EXPECT_EQ(dialog.lblSubCap->text(), u"Please select a location for your database:"_s);
-
-        const QString path = inTestFolder(u"Documents/Our pets"_s);
-        thenDesign([path](DesignForm& design) {
-            EXPECT_EQ(session.dbPath, path);
-            EXPECT_TRUE(QFileInfo(path).isDir());
-            EXPECT_EQ(lastDatabase(), path);
-            EXPECT_EQ(design.fieldName[3]->text(), u"fieldname3"_s);
-            QTest::keyClick(&design, Qt::Key_Escape);
-        });
-        QTest::keyClick(&dialog, Qt::Key_Return);
-        QCoreApplication::processEvents();
-    });
-    EXPECT_EQ(bytesOf(inTestFolder(u"Documents/Our pets/db-info.tdb"_s)),
-              " 3 \r\n 0 "
-              "\r\n\"none\"\r\n\"fieldname1\"\r\n\"Abc\"\r\nFalse\r\n\"fieldname2\"\r\n\"Abc\"\r\nFalse\r\n"
-              "\"fieldname3\"\r\n\"Abc\"\r\nFalse\r\nRW\r\nVER=\"1.1.0\"\r\n");
-    EXPECT_EQ(session.numCards, 0);
-    EXPECT_EQ(session.selectedCard, 1);
-    for (const ControlState& control : {session.menu.MenuTop[1], session.menu.MenuTop[3],
-                                        session.window.refreshCheck, session.window.btnTable})
-        EXPECT_TRUE(control.enabled);
-    EXPECT_EQ(session.menu.menuItemState[0][2], u"Show"_s);
-    EXPECT_EQ(session.menu.menuItemState[1][1], u"Show"_s);
-    EXPECT_EQ(session.window.title, u"Our pets - Tallymoor"_s + titleEnding());
-    EXPECT_TRUE(recorded.messages.isEmpty());
-}
 
 TEST_F(NewDatabase, NeedsANameAndKeepsItOnTheWayBack)
 {
@@ -177,7 +117,14 @@ TEST_F(NewDatabase, GoesWhereThePupilOrTheSettingsSay)
 {
     const QString school = inTestFolder(u"school"_s);
     QDir().mkdir(school);
-    const auto closeDesign = [](DesignForm& design) { QTest::keyClick(&design, Qt::Key_Escape); };
+    session.numFields = 7;
+    session.databaseStatus = u"RO"_s;
+    session.menu.menuItemState[1][1] = u"Don'tShow"_s;
+    session.menu.MenuTop[3].enabled = session.window.btnTable.enabled = false;
+    const auto closeDesign = [](DesignForm& design) {
+        EXPECT_EQ(design.fieldName[3]->text(), u"fieldname3"_s);
+        QTest::keyClick(&design, Qt::Key_Escape);
+    };
     wizard([&](NewForm& dialog) {
         EXPECT_EQ(dialog.LblCustDir->text(),
                   u"The Database will be created in 'My Documents' folder of this computer.\n"
@@ -194,6 +141,10 @@ TEST_F(NewDatabase, GoesWhereThePupilOrTheSettingsSay)
         press(finishButton(dialog));
     });
     EXPECT_EQ(session.dbPath, school + u"/A"_s);
+    EXPECT_EQ(lastDatabase(), session.dbPath);
+    EXPECT_TRUE(session.menu.MenuTop[3].enabled && session.window.btnTable.enabled) << "open like any other";
+    EXPECT_EQ(session.menu.menuItemState[0][2] + session.menu.menuItemState[1][1], u"ShowShow"_s);
+    EXPECT_TRUE(bytesOf(school + u"/A/db-info.tdb"_s).startsWith(" 3 \r\n 0 \r\n\"none\"\r\n\"fieldname1\""));
 
     writeSetting(settingsFile(), u"Working Dir"_s, u"Path"_s, school);
     wizard([&](NewForm& dialog) {
@@ -283,15 +234,4 @@ TEST_F(NewDatabase, ClosingTheOldOneLeavesAnEmptyBoardAndItsFolderWhenCancelled)
     EXPECT_EQ(session.dbPath, testFolder().chopped(1));
     EXPECT_EQ(session.numCards, 2);
     EXPECT_TRUE(session.menu.MenuTop[1].enabled);
-}
-
-TEST_F(NewDatabase, WizardIsWholeOnASmallScreenOnEveryPage)
-{
-    writeSetting(settingsFile(), u"Working Dir"_s, u"Path"_s, u"/a/very/long/way/down"_s.repeated(20));
-    wizard([](NewForm& dialog) {
-        goToLocation(dialog, u"Zoo"_s);
-        EXPECT_LE(dialog.minimumSizeHint().width(), 950);
-        EXPECT_LE(dialog.minimumSizeHint().height(), 560);
-        EXPECT_LE(dialog.height(), 560);
-    });
 }

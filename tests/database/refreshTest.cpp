@@ -59,32 +59,6 @@ TEST_F(Refresh, OnReadsTheFolderAtOnceAndEveryTwoSeconds)
     EXPECT_FALSE(refreshTimer().isActive());
 }
 
-TEST_F(Refresh, ATickShowsWhatOtherWorkstationsDidAndMovesNoCardInView)
-{
-    turnOn();
-    session.box[1].left = 300.5;
-    session.box[2].left = 400.5;
-    const QImage face = session.box[2].picture;
-    writeCard(session.dbPath, cardName(2), u"changed"_s, u"01110222"_s, qRgb(0, 90, 0));
-    writeCard(session.dbPath, cardName(4), u"new"_s, u"05550444"_s, qRgb(0, 0, 90));
-    ASSERT_TRUE(ticks(2));
-    EXPECT_EQ(session.numCards, 4);
-    EXPECT_EQ(session.box[2].tooltip, u"changed"_s);
-    EXPECT_NE(session.box[2].picture, face);
-    EXPECT_EQ(session.box[1].left, 300.5);
-    EXPECT_EQ(session.box[2].left, 400.5);
-    EXPECT_EQ(session.box[4].left, 555);
-    EXPECT_EQ(session.box[4].top, 444);
-
-    for (const char* ending : {".tcd", ".bmp"})
-        QFile::remove(file(1, ending));
-    ASSERT_TRUE(ticks(2));
-    EXPECT_EQ(session.numCards, 3);
-    EXPECT_EQ(session.cardId[1], cardName(2));
-    EXPECT_FALSE(session.box[4].visible);
-    EXPECT_THAT(recorded.messages, IsEmpty());
-}
-
 TEST_F(Refresh, ACardFileThatVanishesInTheMiddleIsToldOnceForEachReading)
 {
     turnOn();

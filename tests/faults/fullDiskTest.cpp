@@ -1,9 +1,9 @@
 // A disk that is full at every length of a file: either the old file is kept or the new one is complete, and
 // an error is shown.
 #include "faults/effort.h"
-#include "faults/smallDisk.h"
 #include "faults/writers.h"
 #include "support/files.h"
+#include "support/smallDisk.h"
 
 #include <csignal>
 #include <sys/resource.h>

@@ -1,10 +1,10 @@
 // Files and folders without write permission: either the old file is kept or the new one is complete, and an
 // error is shown.
 #include "faults/children.h"
-#include "faults/smallDisk.h"
 #include "faults/writers.h"
 #include "platform/pictureFile.h"
 #include "support/files.h"
+#include "support/smallDisk.h"
 
 #include <QDir>
 

@@ -104,8 +104,7 @@ TEST_F(PaintingCards, OnlyWhatWasTouchedChangesOnTheWayThroughTheEditor)
     for (const QRect& untouched :
          {QRect(0, 0, 159, 12), QRect(0, 12, 12, 108), QRect(31, 12, 128, 108), QRect(12, 31, 19, 89)})
         EXPECT_EQ(kept.copy(untouched), card.copy(untouched));
-    QImage square(18, 18, QImage::Format_RGB32);
-    square.fill(darkRed);
+    const QImage square = plain({18, 18}, darkRed);
     EXPECT_EQ(kept.copy(12, 12, 18, 18), square);
 }
 
@@ -142,41 +141,6 @@ TEST_F(PaintingCards, SprayTakesThePensColourAndWhiteLeavesNoMark)
     selectColour(painting, 20);
     mouseDown(painting, {{100, 100}});
     EXPECT_EQ(painted(), between(42, 42, 57, 57));
-}
-
-TEST_F(PaintingCards, AnImportLiesAtOneOneAndADropClearsTheRest)
-{
-    QImage photo(40, 20, QImage::Format_ARGB32);
-    photo.fill(Qt::blue);
-    drag(3, {0, 0}, {312, 240});
-    importPicture(painting, photo);
-    EXPECT_EQ(painting.Picture1.point({0, 0}), darkRed);
-    EXPECT_EQ(painting.Picture1.point({1, 1}), 0xFF0000FF);
-    EXPECT_EQ(painting.Picture1.point({317, 239}), 0xFF0000FF);
-    undo(painting);
-    EXPECT_EQ(painted(), QRect()) << "back to the last mouse-down";
-    importPicture(painting, {});
-    EXPECT_EQ(painted(), between(1, 1, 317, 239)) << "the last picture once more";
-    photo.fill(Qt::transparent);
-    dropPicture(painting, photo);
-    EXPECT_EQ(painted(), QRect());
-}
-
-TEST_F(PaintingCards, HiddenToolsLiftAnAreaAndPickAColour)
-{
-    drag(3, {24, 24}, {60, 60});
-    drag(8, {20, 30}, {40, 400});
-    EXPECT_EQ(painting.selection.place, QRectF(20, 30, 20, 208));
-    EXPECT_EQ(painting.selection.selectedBitMap.pixel(4, 0), darkRed);
-    EXPECT_EQ(painting.Picture1.point({30, 40}), white);
-    EXPECT_EQ(painting.box.place, QRectF(19, 29, 22, 210));
-    EXPECT_THAT(painting.selection.PicHandle,
-                ElementsAre(QPointF(40, 14), QPointF(40, 238), QPointF(4, 238), QPointF(4, 14)));
-    selectColour(painting, 5);
-    drag(12, {50, 50}, {50, 50});
-    EXPECT_EQ(painting.colourSwatch[0], darkRed);
-    EXPECT_EQ(painting.selectedColour, 0);
-    EXPECT_EQ(painting.currentTool, 0);
 }
 
 TEST_F(PaintingCards, OpeningChoosesAnewAndForgetsAnOpenText)

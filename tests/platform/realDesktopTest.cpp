@@ -1,7 +1,7 @@
 #include "platform/realDesktop.h"
 
 #include "platform/errors.h"
-#include "support/freshStart.h"
+#include "support/files.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -61,17 +61,9 @@ TEST_F(RealDesktop, QuestionsTakeYesByReturnAndNoByEscape)
 
 TEST_F(RealDesktop, WhatIsNotThereCannotBeStarted)
 {
-    const auto number = [](const std::function<void()>& routine) {
-        try {
-            routine();
-        } catch (const RuntimeError& error) {
-            return error.number();
-        }
-        return 0;
-    };
     const QString missing = testFolder() + u"missing"_s;
-    EXPECT_EQ(number([&] { desktop.programs.start(missing, {}); }), fileNotFound);
-    EXPECT_EQ(number([&] { desktop.programs.openDocument(missing); }), fileNotFound);
+    EXPECT_EQ(errorOf([&] { desktop.programs.start(missing, {}); }), fileNotFound);
+    EXPECT_EQ(errorOf([&] { desktop.programs.openDocument(missing); }), fileNotFound);
     EXPECT_NO_THROW(desktop.sound.play(missing));
 }
 

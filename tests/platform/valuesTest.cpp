@@ -72,11 +72,3 @@ TEST(Values, AreWrittenWithoutTrailingZeros)
     for (const auto& [number, text] : cases)
         EXPECT_EQ(numberText(number), QString::fromLatin1(text));
 }
-
-TEST(Values, PadPositionsToFourDigits)
-{
-    const std::pair<double, const char*> cases[] = {{123, "0123"},  {85.9, "0085"},  {0, "0000"},
-                                                    {-12, "-0012"}, {-0.5, "-0001"}, {12345, "12345"}};
-    for (const auto& [coordinate, text] : cases)
-        EXPECT_EQ(positionText(coordinate), QString::fromLatin1(text));
-}

@@ -54,14 +54,6 @@ TEST_F(WholeFile, ReplacingKeepsRightsAndLinksAndLeavesNothingBeside)
               QStringList({u"link"_s, u"other"_s, u"real"_s}));
 }
 
-TEST_F(WholeFile, ReplacesFilesOnly)
-{
-    QDir(testFolder()).mkdir(u"folder"_s);
-    EXPECT_EQ(errorOf([] { replaceFile(place("folder"), "x"); }), pathAccessError);
-    EXPECT_EQ(errorOf([] { replaceFile(place("no folder/x"), "x"); }), pathNotFound);
-    EXPECT_EQ(errorOf([] { replaceFile(place(QByteArray(300, 'n').constData()), "x"); }), pathNotFound);
-}
-
 namespace {
 
 /// The name of this machine in temporary files, taken from one that a failing writer leaves behind.

@@ -133,27 +133,6 @@ TEST_F(SampleDatabases, AreTheSameInEveryRunAndKeepNoCardThatLeftTheTable)
     EXPECT_TRUE(QSet<QString>(files.begin(), files.end()).contains(filesOf("*.tcd").last()));
 }
 
-TEST_F(SampleDatabases, AreOpenedOneAfterTheOtherWithTheirOwnBoardPicture)
-{
-    const struct {
-        const char* table;
-        QSize board;
-    } databases[] = {{"amazing-animals.txt", {1920, 1200}},
-                     {"little-monsters.txt", {1, 1}}, // hidden by the menu band
-                     {"amazing-animals.txt", {1920, 1200}}};
-    QString open = session.backgroundPicture;
-    for (const auto& database : databases) {
-        CardTable table = tableOf(database.table);
-        table.cards.clear();
-        make(table, testFolder());
-        session.backgroundPicture = open;
-        readDbInfo();
-        open = session.backgroundPicture;
-        EXPECT_EQ(session.backgroundImage.size(), database.board) << database.table;
-    }
-    EXPECT_THAT(recorded.messages, IsEmpty());
-}
-
 TEST_F(SampleDatabases, HaveGroundsOnWhichTheCaptionsCanBeRead)
 {
     const QColor caption("#1A2F8F"); // as scripts/place-samples sets it
@@ -171,17 +150,4 @@ TEST_F(SampleDatabases, HaveGroundsOnWhichTheCaptionsCanBeRead)
                 ASSERT_GE((brightness(ground.pixelColor(x, y)) + 0.05) / (brightness(caption) + 0.05), 4.5)
                     << name.toStdString() << " at " << x << ", " << y;
     }
-}
-
-TEST_F(SampleDatabases, TellWhatIsMissing)
-{
-    CardTable table = tableOf("musical-instruments.txt");
-    table.cards[0].cells["Picture"] = "nowhere.svg";
-    EXPECT_THROW(make(table, testFolder()), std::runtime_error);
-    table = tableOf("musical-instruments.txt");
-    table.ground = "Made of";
-    EXPECT_THROW(make(table, testFolder()), std::runtime_error) << "there is no metal.svg among the grounds";
-    table = tableOf("musical-instruments.txt");
-    table.cards[0].cells["Sound"] = "silence";
-    EXPECT_THROW(make(table, testFolder()), std::runtime_error);
 }

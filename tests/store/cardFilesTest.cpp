@@ -27,26 +27,6 @@ protected:
     }
 };
 
-TEST_F(CardFiles, ARecordIsWrittenFromTheEditorsBoxes)
-{
-    session.cardValue[1][0] = u"01230085"_s;
-    session.editor.DataBox[1] = u"Größe, m"_s;
-    session.editor.DataBox[3] = u"7"_s;
-    session.editor.DataBox[4] = u"beyond the fields"_s;
-
-    saveCardValues(1);
-
-    EXPECT_EQ(bytesOf(file("CARDAAAA.tcd")), QByteArray("\"01230085\"\r\n\"Gr\xF6\xDF"
-                                                        "e, m\"\r\n\"\"\r\n\"7\"\r\n"));
-    EXPECT_EQ(session.box[1].tooltip, u"Größe, m"_s);
-    EXPECT_TRUE(session.cardValue[1][4].isEmpty());
-    EXPECT_TRUE(recorded.messages.isEmpty());
-
-    session.cardValue[1] = {};
-    loadCardValues(1);
-    EXPECT_EQ(values(), QStringList({"01230085", "Größe, m", "", "7"}));
-}
-
 TEST_F(CardFiles, WhatARecordLacksRepeatsTheLastValueRead)
 {
     const std::pair<QByteArray, QStringList> cases[] = {
@@ -80,20 +60,9 @@ TEST_F(CardFiles, AreFoundAndReplacedWhateverTheirCase)
     EXPECT_EQ(bytesOf(file("CardAaaa.TCD")), QByteArray("\"00100020\"\r\n\"Mia\"\r\n\"\"\r\n\"\"\r\n"));
 }
 
-TEST_F(CardFiles, AFailedSaveLeavesTheTooltip)
-{
-    session.box[1].tooltip = u"before"_s;
-    session.editor.DataBox[1] = u"after"_s;
-    session.dbPath = file("gone");
-    saveCardValues(1);
-    EXPECT_EQ(session.box[1].tooltip, u"before"_s);
-    EXPECT_EQ(session.cardValue[1][1], u"after"_s);
-}
-
 TEST_F(CardFiles, ThePictureIsWhatTheEditorShows)
 {
-    QImage larger(200, 60, QImage::Format_RGB32);
-    larger.fill(Qt::red);
+    const QImage larger = plain({200, 60}, Qt::red);
     session.editor.Picture1.image = larger;
     saveCardPicture(1);
     session.editor.Picture1.image = {};

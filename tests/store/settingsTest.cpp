@@ -1,22 +1,11 @@
 #include "store/settings.h"
 
 #include "store/options.h"
-
 #include "support/files.h"
 
 using namespace Qt::StringLiterals;
 
 using Settings = Fresh;
-
-TEST_F(Settings, LieBesideTheProgramAndAReadNamesItsOwnDefault)
-{
-    const QString file = settingsFile();
-    EXPECT_EQ(file, inTestFolder(u"tallymoor.ini"_s));
-    EXPECT_EQ(readSetting(file, u"Keys"_s, u"Value"_s, u"K"_s), u"K"_s);
-    EXPECT_TRUE(writeSetting(file, u"Keys"_s, u"Value"_s, u"T"_s));
-    EXPECT_EQ(readSetting(file, u"keys"_s, u"VALUE"_s, QString()), u"T"_s);
-    EXPECT_EQ(bytesOf(file), QByteArray("[Keys]\r\nValue=T\r\n"));
-}
 
 TEST_F(Settings, MeanRelativeFoldersFromTheProgramsOwn)
 {
@@ -34,5 +23,17 @@ TEST_F(Settings, MeanRelativeFoldersFromTheProgramsOwn)
     for (const auto& folder : folders) {
         write(option::workingFolder, folder.written);
         EXPECT_EQ(readFolder(option::workingFolder), folder.read);
+    }
+}
+
+TEST_F(Settings, HaveALetterForTheTeacherWhateverTheFileHolds)
+{
+    EXPECT_EQ(optionsLetter(), u"K"_s);
+    const std::vector<std::pair<QString, QString>> cases = {
+        {u"Q"_s, u"Q"_s},  {u"q"_s, u"Q"_s}, {u"tk"_s, u"T"_s}, {u"Ctrl"_s, u"C"_s},       {u"7g"_s, u"G"_s},
+        {u"\""_s, u"K"_s}, {u""_s, u"K"_s},  {u"11"_s, u"K"_s}, {u"\u00e9"_s, u"\u00c9"_s}};
+    for (const auto& [value, letter] : cases) {
+        write(option::optionsKey, value);
+        EXPECT_EQ(optionsLetter(), letter) << value.toStdString();
     }
 }

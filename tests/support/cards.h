@@ -21,6 +21,18 @@ inline void cards(const QStringList& values, const QString& type = QStringLitera
     }
 }
 
+/// Cards with two fields, the text "Name" and the number "Legs".
+inline void animals(const QStringList& names, const QStringList& legs)
+{
+    cards(names);
+    session.numFields = 2;
+    session.fieldName[1] = QStringLiteral("Name");
+    session.fieldName[2] = QStringLiteral("Legs");
+    session.fieldType[2] = QStringLiteral("123");
+    for (int i = 1; i <= session.numCards; ++i)
+        session.cardValue[i][2] = legs[i - 1];
+}
+
 /// The numbers of the cards from the upper left to the lower right of the board.
 inline std::vector<int> cardsByTop()
 {

@@ -15,9 +15,7 @@ inline void writeCard(const QString& folder, const QString& name, const QString&
     putFile(folder + QLatin1Char('/') + name + QStringLiteral(".tcd"),
             (QLatin1Char('"') + place + QStringLiteral("\"\r\n\"") + label + QStringLiteral("\"\r\n"))
                 .toLatin1());
-    QImage picture(159, 120, QImage::Format_RGB32);
-    picture.fill(colour);
-    ASSERT_TRUE(picture.save(folder + QLatin1Char('/') + name + QStringLiteral(".bmp")));
+    ASSERT_TRUE(plain({159, 120}, colour).save(folder + QLatin1Char('/') + name + QStringLiteral(".bmp")));
 }
 
 /// A database of one text field, in a new folder `name`; card i is labelled "card i". Returns the folder.

@@ -9,6 +9,7 @@
 #include <QCoreApplication>
 #include <QDialog>
 #include <QDir>
+#include <QPointer>
 #include <QTimer>
 
 using namespace Qt::StringLiterals;
@@ -120,8 +121,10 @@ void answerPrepared(QDialog& dialog)
     recorded.dialogSteps.pop_front();
     dialog.show();
     QCoreApplication::processEvents();
+    const QPointer<QDialog> shown(&dialog); // the step may run the events that delete it
     step(dialog);
-    dialog.hide();
+    if (shown)
+        shown->hide();
 }
 
 } // namespace

@@ -6,6 +6,7 @@
 
 #include <gmock/gmock.h>
 
+#include <QImage>
 #include <QStringList>
 #include <QTemporaryDir>
 
@@ -47,6 +48,14 @@ void freshStart();
 
 /// The temporary folder of the running test, with a separator at its end.
 QString testFolder();
+
+/// A picture of one colour.
+inline QImage plain(QSize size, QColor colour)
+{
+    QImage picture(size, QImage::Format_RGB32);
+    picture.fill(colour);
+    return picture;
+}
 
 class Fresh : public testing::Test {
 protected:

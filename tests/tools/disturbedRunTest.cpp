@@ -70,7 +70,7 @@ public:
 
     struct Action {
         const char* name;
-        void (Pupil::*take)();
+        void (*take)(Pupil&);
     };
     static const std::vector<Action> actions;
     static std::map<QString, int> timesDone; // by all pupils
@@ -88,25 +88,10 @@ private:
     void fillIn(QDialog& dialog);
     void mouse(QEvent::Type type, QPointF point);
 
-    void chooseFromTheMenu();
     void dragACard();
     void pressACard();
     void moveTheMouse();
     void letGo();
-    void openAnother();
-    void closeTheWindow();
-    void deleteTheFlyingCard();
-    void dropTheFlyingCardOnTheBin();
-    void refresh();
-    void changePace();
-    void closeTheSpeedWindow();
-    void changeMode();
-    void resize();
-    void openTheEditor();
-    void makeAGraph() { runCommand(u"Make Graph..."_s); }
-    void calculate() { runCommand(u"Statistics..."_s); }
-    void writeAReport() { runCommand(u"Report..."_s); }
-    void copyTheGraph();
 
     std::mt19937 chance;
     QStringList folders;
@@ -120,26 +105,64 @@ private:
 std::map<QString, int> Pupil::timesDone;
 
 const std::vector<Pupil::Action> Pupil::actions = {
-    {"menu", &Pupil::chooseFromTheMenu},
-    {"drag", &Pupil::dragACard},
-    {"press", &Pupil::pressACard},
-    {"move", &Pupil::moveTheMouse},
-    {"let go", &Pupil::letGo},
-    {"another tool", &Pupil::useATool},
-    {"another database", &Pupil::openAnother},
-    {"close", &Pupil::closeTheWindow},
-    {"delete", &Pupil::deleteTheFlyingCard},
-    {"bin", &Pupil::dropTheFlyingCardOnTheBin},
-    {"refresh", &Pupil::refresh},
-    {"pace", &Pupil::changePace},
-    {"stop", &Pupil::closeTheSpeedWindow},
-    {"mode", &Pupil::changeMode},
-    {"resize", &Pupil::resize},
-    {"editor", &Pupil::openTheEditor},
-    {"graph", &Pupil::makeAGraph},
-    {"statistics", &Pupil::calculate},
-    {"report", &Pupil::writeAReport},
-    {"copy graph", &Pupil::copyTheGraph},
+    {"menu",
+     [](Pupil& p) {
+         openMenu(p.upTo(lastHeading + 1));
+         dispatchLine(p.upTo(session.menu.menuLastItem[session.menu.openMenuIndex] + 1));
+     }},
+    {"drag", [](Pupil& p) { p.dragACard(); }},
+    {"press", [](Pupil& p) { p.pressACard(); }},
+    {"move", [](Pupil& p) { p.moveTheMouse(); }},
+    {"let go", [](Pupil& p) { p.letGo(); }},
+    {"another tool", [](Pupil& p) { p.useATool(); }},
+    {"another database", [](Pupil& p) { openChosenFolder(p.folders[p.upTo(int(p.folders.size()))]); }},
+    {"close",
+     [](Pupil& p) {
+         form<Form1>().close();
+         p.messagesAtEnd = recorded.messages.size();
+     }},
+    {"delete", [](Pupil& p) { deleteCard(session.cardId[p.flying]); }},
+    {"bin",
+     [](Pupil& p) {
+         session.board.BigBin.visible = true;
+         dropOnBin(p.flying);
+     }},
+    {"refresh",
+     [](Pupil& p) {
+         // Another workstation has added a card, which comes first.
+         putFile(session.dbPath + u"/AAAA%1.tcd"_s.arg(p.rounds % 10000, 4, 10, '0'_L1),
+                 "\"03000100\"\r\n\"b\"\r\n\"1\"\r\n");
+         setRefresh(u"On"_s);
+         refreshTimer().setInterval(1); // from now on ticks arrive with the events
+     }},
+    {"pace",
+     [](Pupil& p) {
+         if (!isLoaded<FrmSpeed>())
+             return;
+         auto& speed = form<FrmSpeed>();
+         speed.findChild<QSlider*>()->setValue(7 + p.upTo(3));
+         if (auto* button = speed.findChild<QPushButton*>(u"BtnPause"_s); button->isVisible())
+             button->click();
+     }},
+    {"stop",
+     [](Pupil& p) {
+         if (isLoaded<FrmSpeed>())
+             p.oneIn(2) ? form<FrmSpeed>().reject() : void(form<FrmSpeed>().close());
+     }},
+    {"mode", [](Pupil& p) { (p.oneIn(2) ? form<Form1>().btnTable : form<Form1>().btnCards)->click(); }},
+    {"resize", [](Pupil& p) { form<Form1>().resize(640 + p.upTo(300), 400 + p.upTo(200)); }},
+    {"editor", [](Pupil& p) { openInEditor(p.someCard()); }},
+    {"graph", [](Pupil&) { runCommand(u"Make Graph..."_s); }},
+    {"statistics", [](Pupil&) { runCommand(u"Statistics..."_s); }},
+    {"report", [](Pupil&) { runCommand(u"Report..."_s); }},
+    {"copy graph",
+     [](Pupil&) { // a graph that was made in mid-flight is copied there as well
+         runCommand(u"Make Graph..."_s);
+         if (isLoaded<Form1>() && form<Form1>().cmdCopyGraph->isVisible()) {
+             EXPECT_TRUE(form<Form1>().MSChart->isVisible());
+             form<Form1>().cmdCopyGraph->click();
+         }
+     }},
 };
 
 Pupil::Pupil(unsigned seed)
@@ -200,7 +223,7 @@ void Pupil::act()
     const Action& action = actions[upTo(int(actions.size()))];
     done.append(QLatin1String(action.name));
     ++timesDone[done.back()];
-    (this->*action.take)();
+    action.take(*this);
 }
 
 void Pupil::answer(QDialog& dialog)
@@ -245,12 +268,6 @@ void Pupil::mouse(QEvent::Type type, QPointF point)
     QCoreApplication::sendEvent(form<Form1>().board, &event);
 }
 
-void Pupil::chooseFromTheMenu()
-{
-    openMenu(upTo(lastHeading + 1));
-    dispatchLine(upTo(session.menu.menuLastItem[session.menu.openMenuIndex] + 1));
-}
-
 void Pupil::dragACard()
 {
     pressACard();
@@ -266,61 +283,6 @@ void Pupil::pressACard()
 
 void Pupil::moveTheMouse() { mouse(QEvent::MouseMove, somewhere()); }
 void Pupil::letGo() { mouse(QEvent::MouseButtonRelease, somewhere()); }
-void Pupil::openAnother() { openChosenFolder(folders[upTo(int(folders.size()))]); }
-
-void Pupil::closeTheWindow()
-{
-    form<Form1>().close();
-    messagesAtEnd = recorded.messages.size();
-}
-
-void Pupil::deleteTheFlyingCard() { deleteCard(session.cardId[flying]); }
-
-void Pupil::dropTheFlyingCardOnTheBin()
-{
-    session.board.BigBin.visible = true;
-    dropOnBin(flying);
-}
-
-/// Another workstation has added a card, which comes first.
-void Pupil::refresh()
-{
-    putFile(session.dbPath + u"/AAAA%1.tcd"_s.arg(rounds % 10000, 4, 10, '0'_L1),
-            "\"03000100\"\r\n\"b\"\r\n\"1\"\r\n");
-    setRefresh(u"On"_s);
-    refreshTimer().setInterval(1); // from now on ticks arrive with the events
-}
-
-void Pupil::changePace()
-{
-    if (!isLoaded<FrmSpeed>())
-        return;
-    auto& speed = form<FrmSpeed>();
-    speed.findChild<QSlider*>()->setValue(7 + upTo(3));
-    if (auto* button = speed.findChild<QPushButton*>(u"BtnPause"_s); button->isVisible())
-        button->click();
-}
-
-void Pupil::closeTheSpeedWindow()
-{
-    if (isLoaded<FrmSpeed>())
-        oneIn(2) ? form<FrmSpeed>().reject() : void(form<FrmSpeed>().close());
-}
-
-void Pupil::changeMode() { (oneIn(2) ? form<Form1>().btnTable : form<Form1>().btnCards)->click(); }
-void Pupil::resize() { form<Form1>().resize(640 + upTo(300), 400 + upTo(200)); }
-void Pupil::openTheEditor() { openInEditor(someCard()); }
-
-/// Presses the button while it can be seen; a graph that was made in mid-flight is copied there as well.
-void Pupil::copyTheGraph()
-{
-    makeAGraph();
-    if (isLoaded<Form1>() && form<Form1>().cmdCopyGraph->isVisible()) {
-        EXPECT_TRUE(form<Form1>().MSChart->isVisible());
-        form<Form1>().cmdCopyGraph->click();
-    }
-}
-
 /// The run is over, its windows are closed, and the cards are on or near the board.
 void Pupil::expectADefinedState() const
 {

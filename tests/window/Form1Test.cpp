@@ -97,46 +97,34 @@ TEST_F(MainWindow, TheRefreshBoxAsksAndShowsWhatCameOfIt)
 {
     session.window.refreshCheck.enabled = true;
     window.showControls();
-    QTest::mouseClick(window.refreshCheck, Qt::LeftButton, {}, {20, 15});
+    const auto click = [this] { QTest::mouseClick(window.refreshCheck, Qt::LeftButton, {}, {20, 15}); };
+    click();
     EXPECT_FALSE(window.refreshCheck->isChecked()) << "nobody turned the refresh on";
-
     mainView.setRefresh = [this](const QString& word) {
         refresh.append(word);
         session.window.refreshCheck.pressed = word == "On"_L1;
     };
-    QTest::mouseClick(window.refreshCheck, Qt::LeftButton, {}, {20, 15});
+    click();
     EXPECT_TRUE(window.refreshCheck->isChecked());
     QTest::keyClick(window.refreshCheck, Qt::Key_Space);
     EXPECT_FALSE(window.refreshCheck->isChecked());
     EXPECT_THAT(refresh, ElementsAre(u"On"_s, u"On"_s, u"Off"_s));
-}
 
-TEST_F(MainWindow, AnErrorInARoutineDoesNotPassTheWindowSystem)
-{
-    session.window.refreshCheck.enabled = true;
-    window.showControls();
-    mainView.setRefresh = [](const QString&) { throw RuntimeError(pathNotFound); };
-    QTest::mouseClick(window.refreshCheck, Qt::LeftButton, {}, {20, 15});
+    mainView.setRefresh = [](const QString&) { throw RuntimeError(pathNotFound); }; // must not enter Qt
+    click();
     EXPECT_THAT(recorded.messages, ElementsAre(u"Error|Path not found"_s));
     EXPECT_FALSE(window.refreshCheck->isChecked());
 }
 
-TEST_F(MainWindow, TheBoardIsTheWholeInside)
+TEST_F(MainWindow, TheBoardIsTheWholeInsideAndTheBandClosesTheMenu)
 {
     window.resize(900, 600);
-    EXPECT_EQ(session.board.width, 900);
-    EXPECT_EQ(session.board.height, 600);
+    EXPECT_EQ(QSizeF(session.board.width, session.board.height), QSizeF(900, 600));
     EXPECT_EQ(window.board->size(), window.size());
     EXPECT_EQ(window.tablePanel->geometry(), QRect(0, 40, 900, 560));
     EXPECT_THAT(recorded.messages, IsEmpty());
-}
-
-TEST_F(MainWindow, AClickOnTheBandClosesTheMenu)
-{
-    fillMenuTables();
-    QTest::mouseClick(window.menuBar->MenuTop[0], Qt::LeftButton);
-    EXPECT_TRUE(session.menu.MenuHolder.visible);
-    QTest::mouseClick(window.windowHandle(), Qt::LeftButton, {}, {950, 20});
+    openMenu(0);
+    QTest::mouseClick(window.windowHandle(), Qt::LeftButton, {}, {850, 20});
     EXPECT_FALSE(session.menu.MenuHolder.visible);
 }
 
@@ -214,8 +202,13 @@ TEST_F(MainWindow, TheChartCoversTheBoardAndGoesWithTheMode)
     window.resize(800, 500);
     EXPECT_EQ(window.MSChart->geometry(), QRect(0, 40, 800, 460));
 
+    session.board.groupTitle[12] = {u"cats"_s, 10, 600, 80, 20, true};
+    session.board.VennBox.visible = true;
+    session.options.BCol = u"255"_s;
     setMode(u"card"_s);
     EXPECT_FALSE(window.MSChart->isVisible() || window.cmdCopyGraph->isVisible());
+    EXPECT_FALSE(session.board.groupTitle[12].visible || session.board.VennBox.visible);
+    EXPECT_EQ(session.board.colour, u"255"_s);
     EXPECT_EQ(window.focusWidget(), window.board);
     EXPECT_EQ(QAccessible::queryAccessibleInterface(window.board)->childCount(), 1);
 }

@@ -4,7 +4,6 @@
 #include "core/session.h"
 #include "support/freshStart.h"
 
-#include <QAccessible>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -61,21 +60,6 @@ protected:
 
 } // namespace
 
-TEST_F(MenuBarOnWindow, HeadingsAndPanelStandWhereTheDesignPutsThem)
-{
-    const int twips[] = {60, 1020, 2100, 3120};
-    for (int menu = 0; menu <= lastHeading; ++menu) {
-        QPushButton* heading = bar.MenuTop[menu];
-        EXPECT_EQ(heading->pos(), QPoint(twips[menu] / 15, 4));
-        click(heading);
-        EXPECT_EQ(bar.MenuHolder->pos(), QPoint(heading->x() - 1, heading->y() + heading->height() + 1));
-        const auto& lastCaption = bar.menuCaption[session.menu.menuLastItem[menu]];
-        EXPECT_EQ(bar.MenuHolder->height(), lastCaption->mapTo(bar.MenuHolder, QPoint()).y() + 41);
-        EXPECT_TRUE(
-            bar.MenuHolder->rect().contains(bar.menuHighlight[session.menu.menuLastItem[menu]]->geometry()));
-    }
-}
-
 TEST_F(MenuBarOnWindow, ShowsWordsPicturesAndStatesOfTheOpenMenuOnly)
 {
     session.menu.menuItemState[0][2] = u"IfSelect"_s;
@@ -90,20 +74,49 @@ TEST_F(MenuBarOnWindow, ShowsWordsPicturesAndStatesOfTheOpenMenuOnly)
     EXPECT_FALSE(bar.menuHighlight[4]->isVisible());
 }
 
-TEST_F(MenuBarOnWindow, TheFrameStandsOnePixelAroundTheHeadingUnderTheMouse)
+TEST_F(MenuBarOnWindow, FramesTheHeadingAndLightsTheLineUnderTheMouse)
 {
-    const QRect heading = bar.MenuTop[2]->geometry();
     QTest::mouseMove(window.windowHandle(), QPoint(400, 400)); // it may be there from another test
     EXPECT_FALSE(bar.ShadowTop->isVisible());
     moveTo(bar.MenuTop[2]);
+    const QRect around = bar.MenuTop[2]->geometry().adjusted(-1, -1, 1, 1);
+    EXPECT_EQ(QRect(QPoint(bar.ShadowLeft->x(), bar.ShadowTop->y()),
+                    QPoint(bar.ShadowRight->x(), bar.ShadowBot->y())),
+              around);
     EXPECT_TRUE(bar.ShadowLeft->isVisible() && bar.ShadowTop->isVisible() && bar.ShadowRight->isVisible() &&
                 bar.ShadowBot->isVisible());
-    EXPECT_EQ(bar.ShadowLeft->x(), heading.left() - 1);
-    EXPECT_EQ(bar.ShadowRight->x(), heading.right() + 1);
-    EXPECT_EQ(bar.ShadowTop->y(), heading.top() - 1);
-    EXPECT_EQ(bar.ShadowBot->y(), heading.bottom() + 1);
     QTest::mouseMove(window.windowHandle(), QPoint(400, 400));
     EXPECT_FALSE(bar.ShadowTop->isVisible());
+
+    click(bar.MenuTop[1]);
+    EXPECT_TRUE(bar.MenuHolder->rect().contains(bar.menuHighlight[4]->geometry()));
+    EXPECT_EQ(lit(), -1);
+    moveTo(bar.menuCaption[3]);
+    EXPECT_EQ(lit(), 3);
+    moveTo(bar.menuPic[1]);
+    EXPECT_EQ(lit(), 1);
+    moveTo(bar.MenuTop[2]);
+    EXPECT_EQ(lit(), -1);
+}
+
+TEST_F(MenuBarOnWindow, AClickAnywhereOnALineRunsItsCommandUnlessItIsGrey)
+{
+    for (const QWidget* place :
+         std::initializer_list<QWidget*>{bar.menuPic[1], bar.menuCaption[1], bar.menuHighlight[1]}) {
+        for (const bool grey : {true, false}) {
+            session.menu.menuItemState[1][1] = grey ? u"Don'tShow"_s : u"Show"_s;
+            session.board.BigBin.visible = false;
+            closeMenu();
+            click(bar.MenuTop[1]);
+            click(place);
+            EXPECT_EQ(session.board.BigBin.visible, !grey);
+            EXPECT_EQ(bar.MenuHolder->isVisible(), grey);
+        }
+    }
+    session.board.BigBin.visible = false;
+    click(bar.MenuTop[1]);
+    QTest::mouseClick(window.windowHandle(), Qt::RightButton, {}, middleOf(bar.menuCaption[1]));
+    EXPECT_FALSE(session.board.BigBin.visible);
 }
 
 TEST_F(MenuBarOnWindow, SlidesAlongTheBarButNotToAGreyHeading)
@@ -121,46 +134,6 @@ TEST_F(MenuBarOnWindow, SlidesAlongTheBarButNotToAGreyHeading)
     EXPECT_EQ(session.menu.openMenuIndex, 2);
     click(bar.MenuTop[3]);
     EXPECT_EQ(session.menu.openMenuIndex, 2);
-}
-
-TEST_F(MenuBarOnWindow, OneLineIsLitUnderTheMouse)
-{
-    click(bar.MenuTop[1]);
-    EXPECT_EQ(lit(), -1);
-    for (const QWidget* place :
-         {static_cast<QWidget*>(bar.menuCaption[3]), static_cast<QWidget*>(bar.menuPic[1])}) {
-        moveTo(place);
-        EXPECT_EQ(lit(), place == bar.menuPic[1] ? 1 : 3);
-    }
-    moveTo(bar.MenuTop[2]);
-    EXPECT_EQ(lit(), -1);
-}
-
-TEST_F(MenuBarOnWindow, AClickAnywhereOnALineRunsItsCommand)
-{
-    for (const QWidget* place :
-         {static_cast<QWidget*>(bar.menuPic[1]), static_cast<QWidget*>(bar.menuCaption[1]),
-          static_cast<QWidget*>(bar.menuHighlight[1])}) {
-        session.board.BigBin.visible = false;
-        click(bar.MenuTop[1]);
-        click(place);
-        EXPECT_TRUE(session.board.BigBin.visible);
-        EXPECT_FALSE(bar.MenuHolder->isVisible());
-    }
-}
-
-TEST_F(MenuBarOnWindow, AGreyLineAndAnotherMouseButtonDoNothing)
-{
-    session.menu.menuItemState[1][1] = u"Don'tShow"_s;
-    click(bar.MenuTop[1]);
-    click(bar.menuCaption[1]);
-    EXPECT_FALSE(session.board.BigBin.visible);
-    EXPECT_TRUE(bar.MenuHolder->isVisible());
-
-    session.menu.menuItemState[1][1] = u"Show"_s;
-    moveTo(bar.MenuTop[1]);
-    QTest::mouseClick(window.windowHandle(), Qt::RightButton, {}, middleOf(bar.menuCaption[1]));
-    EXPECT_FALSE(session.board.BigBin.visible);
 }
 
 TEST_F(MenuBarOnWindow, ClosesFromOutsideAndByItsHeading)
@@ -222,25 +195,4 @@ TEST_F(MenuBarOnWindow, AHeadingWithTheFocusOpensAndPassesTheFocusOn)
     EXPECT_EQ(lit(), 0);
     press(Qt::Key_Escape);
     EXPECT_TRUE(bar.MenuTop[2]->hasFocus());
-}
-
-TEST_F(MenuBarOnWindow, AssistiveTechnologyReadsItAndPressesIt)
-{
-    session.menu.MenuTop[2].enabled = false;
-    session.menu.menuItemState[1][2] = u"Don'tShow"_s;
-    bar.showState();
-    const auto reads = [](QWidget* control) { return QAccessible::queryAccessibleInterface(control); };
-
-    EXPECT_EQ(reads(bar.MenuTop[1])->text(QAccessible::Name), u"Card"_s);
-    EXPECT_FALSE(reads(bar.MenuTop[1])->state().disabled);
-    EXPECT_TRUE(reads(bar.MenuTop[2])->state().disabled);
-    reads(bar.MenuTop[1])->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
-    ASSERT_TRUE(QTest::qWaitFor([this] { return bar.MenuHolder->isVisible(); }));
-    EXPECT_EQ(reads(bar.MenuHolder)->text(QAccessible::Name), u"Card"_s);
-    EXPECT_EQ(reads(bar.menuCaption[1])->text(QAccessible::Name), u"Delete Card"_s);
-    EXPECT_FALSE(reads(bar.menuCaption[1])->state().disabled);
-    EXPECT_TRUE(reads(bar.menuCaption[2])->state().disabled);
-
-    reads(bar.menuCaption[1])->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
-    EXPECT_TRUE(QTest::qWaitFor([] { return session.board.BigBin.visible; }));
 }

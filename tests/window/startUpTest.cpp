@@ -4,14 +4,12 @@
 #include "core/session.h"
 #include "core/title.h"
 #include "store/settings.h"
-#include "support/freshStart.h"
+#include "support/dialogs.h"
 #include "window/ExitForm.h"
 #include "window/Form1.h"
 #include "window/FrmStlogo.h"
 #include "window/frmNewDoc.h"
 #include "window/shutDown.h"
-
-#include <QCoreApplication>
 
 using namespace Qt::StringLiterals;
 
@@ -70,13 +68,10 @@ TEST_F(Start, TheExitQuestionEndsEverythingOrNothing)
     form<Form1>();
     form<ExitForm>().show();
     form<ExitForm>().reject();
-    EXPECT_EQ(session.dialogResult, u"Cancel"_s);
     EXPECT_FALSE(isLoaded<ExitForm>());
     EXPECT_TRUE(isLoaded<Form1>());
-
     form<ExitForm>().show();
-    form<ExitForm>().findChild<QPushButton*>(u"YesBut"_s)->click();
-    EXPECT_EQ(session.dialogResult, u"OK"_s);
+    press(form<ExitForm>(), "YesBut");
     EXPECT_FALSE(isLoaded<ExitForm>() || isLoaded<Form1>());
     EXPECT_EQ(recorded.ends, 1);
 }

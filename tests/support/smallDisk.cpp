@@ -1,4 +1,4 @@
-#include "faults/smallDisk.h"
+#include "support/smallDisk.h"
 
 #include "support/files.h"
 
