@@ -54,20 +54,3 @@ TEST_F(Statistics, CountGroupsAsTheyAreFirstMet)
     EXPECT_EQ(statisticsResult(u"Count"_s), u"Legs Count groups:\r\n = 1\r\n"_s);
     EXPECT_EQ(statisticsResult(u"Mean"_s), QString());
 }
-
-TEST(Rounding, SendsHalvesUpwardsAsOnPaper)
-{
-    const struct {
-        double number;
-        int places;
-        double rounded;
-    } cases[] = {
-        {2.345, 2, 2.35}, {-2.345, 2, -2.34}, {1.005, 2, 1.01},  {66.666, 2, 66.67},  {-0.5, 0, 0},
-        {2.5, 0, 3},      {1e300, 2, 1e300},  {1e307, 2, 1e307}, {0.1 + 0.2, 1, 0.3},
-    };
-    for (const auto& [number, places, rounded] : cases)
-        EXPECT_EQ(roundedTo(number, places), rounded) << number;
-    EXPECT_EQ(singleText(0.1F), u"0.1"_s);
-    EXPECT_EQ(singleText(16777217.0F), u"1.677722E+07"_s);
-    EXPECT_THROW(toSingle(-1e39), RuntimeError);
-}

@@ -8,7 +8,6 @@
 #include "support/dialogs.h"
 
 #include <QComboBox>
-#include <QCoreApplication>
 
 using namespace Qt::StringLiterals;
 

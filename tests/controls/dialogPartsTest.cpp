@@ -30,17 +30,6 @@ struct Question : AnswerDialog {
 
 using DialogParts = Fresh;
 
-TEST_F(DialogParts, KeysAndTheCloseBoxPressTheAnswers)
-{
-    Question question;
-    question.show();
-    QTest::keyClick(&question, Qt::Key_Return);
-    QTest::keyClick(&question, Qt::Key_Escape);
-    question.close();
-    const QString no = u"NoBut"_s;
-    EXPECT_EQ(question.given, QStringList({u"YesBut"_s, no, no}));
-}
-
 TEST_F(DialogParts, ReturnInATextIsYesWhicheverButtonHadTheFocusBefore)
 {
     Question question;

@@ -2,21 +2,17 @@
 
 #include "controls/fittedLabel.h"
 #include "controls/forms.h"
-#include "core/mainView.h"
 #include "core/title.h"
 #include "editing/DesignForm.h"
 #include "editing/newCommand.h"
-#include "guidance/tutorial.h"
 #include "store/settings.h"
 #include "support/dialogs.h"
 #include "support/files.h"
 
-#include <QAction>
 #include <QDir>
 #include <QLabel>
 #include <QLineEdit>
 #include <QRadioButton>
-#include <QToolButton>
 
 using namespace Qt::StringLiterals;
 
@@ -187,30 +183,6 @@ TEST_F(NewDatabase, AFolderThatCannotBeMadeEndsInTheErrorBoxAndTheWizardStays)
         press(finishButton(dialog));
     });
     EXPECT_EQ(recorded.messages, QStringList(u"Error|Path not found"_s));
-}
-
-TEST_F(NewDatabase, HelpOffersTheMissingTutorialsAndTheGuide)
-{
-    int installed = 0;
-    mainView.watchTutorial = watchTutorial;
-    mainView.installTutorials = [&] { ++installed; };
-    wizard([&](NewForm& dialog) {
-        press(dialog.BtnVid);
-        dialog.mnuFHelp->trigger();
-        QCoreApplication::processEvents();
-        EXPECT_EQ(recorded.started,
-                  QStringList({inTestFolder(u"Videos/Newdb.exe /shc"_s), inTestFolder(u"Help/Newdb.pdf"_s)}));
-        desktop.programs.start = [](const QString&, const QStringList&) { throw RuntimeError(fileNotFound); };
-        for (const bool answer : {false, true}) {
-            recorded.answers.push_back(answer);
-            dialog.mnuFVid->trigger();
-            QCoreApplication::processEvents();
-            EXPECT_EQ(installed, answer ? 1 : 0);
-        }
-        EXPECT_EQ(recorded.messages.last(),
-                  u"Confirm|It appears you have not installed the Video Tutorials.\n"
-                  "Would you like to install them now?"_s);
-    });
 }
 
 TEST_F(NewDatabase, ClosingTheOldOneLeavesAnEmptyBoardAndItsFolderWhenCancelled)

@@ -1,7 +1,6 @@
 #include "database/folderWalk.h"
 
 #include "support/freshStart.h"
-#include "support/slowMount.h"
 
 #include <QDir>
 #include <QFile>
@@ -127,23 +126,4 @@ TEST_F(Walking, ReadsOnlyWhatIsShownOfFiveThousandFolders)
     walk.setFirst(4998);
     settle();
     EXPECT_THAT(shown(), ElementsAre("Dir 4998", "tdb 4999"));
-}
-
-TEST_F(Walking, AFolderThatDoesNotAnswerHoldsUpNobody)
-{
-    make({"home/a/", "home/b/", "home/c/", "home/d/", "home/e/db-info.tdb"});
-    SlowMount slow(20, testFolder() + u"home"_s);
-    if (slow.path().isEmpty())
-        GTEST_SKIP() << slow.reason().toStdString();
-    slow.hold();
-    walk.start(slow.path(), nothing, true, QSize(64, 64));
-    EXPECT_TRUE(walk.waiting());
-    slow.release();
-    settle();
-    EXPECT_THAT(shown(), ElementsAre("Dir a", "Dir b", "Dir c", "Dir d", "tdb e"));
-
-    slow.hold();
-    walk.enter(walk.item(0));
-    walk.stop();
-    EXPECT_FALSE(walk.waiting());
 }

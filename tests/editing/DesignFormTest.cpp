@@ -139,14 +139,6 @@ TEST_F(Design, ACancelledNewDoesNotEmptyTheDatabaseThatIsStillOpen)
     EXPECT_EQ(session.fieldName[1], u"changed"_s) << "read once";
 }
 
-TEST_F(Design, AFolderThatVanishedIsToldAndTheSessionStays)
-{
-    session.dbPath = inTestFolder(u"gone"_s);
-    design([](DesignForm& dialog) { press(dialog.spinUp); });
-    EXPECT_EQ(recorded.messages, QStringList(u"Error|Path not found"_s));
-    EXPECT_EQ(session.numFields, 4);
-}
-
 TEST_F(Design, IsReachedByKeysWithEveryFieldAndDoesNotGrowUnderAChildsHand)
 {
     session.numFields = 12;

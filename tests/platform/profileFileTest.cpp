@@ -93,16 +93,6 @@ TEST_F(ProfileFile, WritingChangesOneLineOnly)
     }
 }
 
-TEST_F(ProfileFile, AnyValueKeepsTheOthersReadable)
-{
-    putFile(profile(), "[S]\r\nfirst=B\xE4r\r\n");
-    write("S", "second", u"Łódź"_s);
-    write("S", "third", u"two\r\n[T]\nlines"_s);
-    EXPECT_EQ(read("S", "first"), u"Bär"_s);
-    EXPECT_EQ(read("S", "second"), u"Łódź"_s);
-    EXPECT_EQ(read("S", "third"), u"two  [T] lines"_s);
-}
-
 TEST_F(ProfileFile, WhatCannotBeReadIsNotReplaced)
 {
     QFile file(profile());

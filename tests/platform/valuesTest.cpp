@@ -58,17 +58,3 @@ TEST(Values, RoundHalvesToTheEvenInteger)
     for (const double outside : {32767.5, -32768.6, 1e300, std::numeric_limits<double>::quiet_NaN()})
         EXPECT_EQ(errorOf([&] { toInteger(outside); }), overflow) << outside;
 }
-
-TEST(Values, AreWrittenWithoutTrailingZeros)
-{
-    const std::pair<double, const char*> cases[] = {{0, "0"},
-                                                    {-0.0, "0"},
-                                                    {12, "12"},
-                                                    {0.5, "0.5"},
-                                                    {0.1 + 0.2, "0.3"},
-                                                    {1e15, "1E+15"},
-                                                    {-1.0 / 3, "-0.333333333333333"},
-                                                    {123456789012345, "123456789012345"}};
-    for (const auto& [number, text] : cases)
-        EXPECT_EQ(numberText(number), QString::fromLatin1(text));
-}

@@ -62,14 +62,6 @@ TEST_F(CardTables, NameTheLineThatIsWrong)
         {"title: Fruit\nfield: Name; text\nground: Name",
          "table.txt:3: the ground is no field with a list: Name"},
         {"field: Name; text\nName\nApple", "the table has no title"},
-        {start + QByteArray("\n").repeated(2) +
-             [] {
-                 QByteArray rows;
-                 for (int i = 0; i < 100; ++i)
-                     rows += "Fruit " + QByteArray::number(i) + "; red; 1;\n";
-                 return rows;
-             }(),
-         "a database has 99 cards at most"},
     };
     for (const auto& fault : faults)
         EXPECT_THAT(complaint(fault.table), HasSubstr(fault.told));

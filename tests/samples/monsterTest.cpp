@@ -17,15 +17,6 @@ Monster with(const std::function<void(Monster&)>& change)
     return monster;
 }
 
-/// The first row of the outline of a monster without horns.
-int topOf(const QImage& picture)
-{
-    int y = 5; // below the picture's edge
-    while (y < picture.height() && picture.pixelColor(picture.width() / 2, y).lightness() > 100)
-        ++y;
-    return y;
-}
-
 } // namespace
 
 TEST(Monsters, ShowEveryValueOfTheirCard)
@@ -48,14 +39,4 @@ TEST(Monsters, ShowEveryValueOfTheirCard)
     for (const int horns : {1, 2, 3, 4})
         EXPECT_TRUE(isNew([=](Monster& m) { m.horns = horns; })) << horns;
     EXPECT_TRUE(isNew([](Monster& m) { m.flies = true; }));
-}
-
-TEST(Monsters, AreDrawnToScale)
-{
-    const auto tall = [](int height) {
-        return topOf(drawMonster(with([=](Monster& m) { m.height = height; })));
-    };
-    EXPECT_NEAR(tall(60) - tall(80), tall(80) - tall(100), 1);
-    EXPECT_GE(tall(80) - tall(100), 16) << "20 cm have to be seen on a card";
-    EXPECT_GE(tall(100), 20) << "the name needs its place above";
 }

@@ -3,25 +3,18 @@
 #include "tools/findForm.h"
 #include "tools/toolCommands.h"
 
-#include "board/mode.h"
 #include "controls/forms.h"
 #include "core/mainView.h"
 #include "support/cards.h"
 #include "support/dialogs.h"
-#include "support/files.h"
-#include "tools/groupForm.h"
-#include "tools/moveForm.h"
 #include "tools/pacing.h"
-#include "tools/sortForm.h"
 #include "tools/warnForm.h"
 
 #include <QCheckBox>
 #include <QComboBox>
 #include <QLineEdit>
-#include <QPushButton>
 #include <QRadioButton>
 #include <QSlider>
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 
@@ -117,14 +110,6 @@ TEST_F(ToolForms, FindTakesOnlyNumbersForANumberFieldAndAnswersFromItsList)
     press(find, "possAnswer3");
     EXPECT_EQ(session.findRow[0].value, u"8"_s);
     EXPECT_FALSE(part<QWidget>(find, "AnswerHolder").isVisible());
-}
-
-TEST_F(ToolForms, AllOfferTheVideoAboutEnteringData)
-{
-    for (QWidget* dialog : std::initializer_list<QWidget*>{&form<findForm>(), &form<sortForm>(),
-                                                           &form<groupForm>(), &form<moveForm>()})
-        press(*dialog, "BtnVid");
-    EXPECT_EQ(recorded.started, QStringList(4, inTestFolder(u"Videos/Entering Data.exe /shc"_s)));
 }
 
 TEST_F(ToolForms, TheSpeedWindowPausesResumesAndEndsARun)
