@@ -1,0 +1,98 @@
+// Every dialog on the smallest screen, 1024 by 600, with the longest content.
+#include "analysis/analysisCommands.h"
+#include "controls/forms.h"
+#include "database/NewForm.h"
+#include "database/chooseDatabase.h"
+#include "editing/FieldForm.h"
+#include "editing/designCommand.h"
+#include "editing/editCard.h"
+#include "editing/frmRemind.h"
+#include "paint/picEdit.h"
+#include "store/settings.h"
+#include "support/cards.h"
+#include "support/dialogs.h"
+#include "tools/FrmSpeed.h"
+#include "tools/toolCommands.h"
+#include "tools/warnForm.h"
+#include "window/ExitForm.h"
+#include "window/frmNewDoc.h"
+
+#include <QApplication>
+#include <QFile>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr QSize room(980, 576); // without the window's frame
+
+template <class Form>
+void askIn()
+{
+    ask(form<Form>());
+}
+
+const struct {
+    const char* name;
+    void (*open)();
+} dialogs[] = {
+    {"welcome", askIn<frmNewDoc>},
+    {"exit", askIn<ExitForm>},
+    {"choosing a database", [] { chooseDatabase({}); }},
+    {"a new database", askIn<NewForm>},
+    {"design", designCommand},
+    {"a field", [] { editField(2); }},
+    {"reminder", askIn<frmRemind>},
+    {"card editor", [] { openCardEditor(1); }},
+    {"picture editor", openPictureEditor},
+    {"find", findCommand},
+    {"sort", sortCommand},
+    {"group", groupCommand},
+    {"arrange", arrangeCommand},
+    {"speed", askIn<FrmSpeed>},
+    {"bin", [] { confirmDelete(1); }},
+    {"graph", makeGraph},
+    {"statistics", showStatistics},
+};
+
+/// Twelve fields with lists, long names, and all that settings can add.
+void fillSession()
+{
+    const QString longText = u"A name that is far longer than its place "_s;
+    desktop.screen.size = [] { return QSize(1024, 600); };
+    session.dbPath = testFolder().chopped(1);
+    session.numFields = 12;
+    for (int f = 1; f <= 12; ++f) {
+        session.fieldUseList[f] = true;
+        session.fieldName[f] = longText + QString::number(f);
+    }
+    cards(QStringList(3, longText.repeated(3)));
+    writeSetting(settingsFile(), u"Working Dir"_s, u"Path"_s, u"/a/very/long/way/down"_s.repeated(20));
+    writeSetting(settingsFile(), u"Last DB"_s, u"Path"_s, u"/a/very/long/way/down"_s.repeated(20));
+    writeSetting(settingsFile(), u"Sound"_s, u"Status"_s, u"1"_s);
+}
+
+} // namespace
+
+using SmallScreen = Fresh;
+
+TEST_F(SmallScreen, HoldsEveryDialogWhole)
+{
+    QFile sheet(u":/tallymoor.qss"_s);
+    ASSERT_TRUE(sheet.open(QIODevice::ReadOnly));
+    qApp->setStyleSheet(QString::fromUtf8(sheet.readAll()));
+    for (const auto& [name, open] : dialogs) {
+        freshStart();
+        fillSession();
+        inDialog([name = name](QDialog& dialog) {
+            const QSize size = dialog.size().expandedTo(dialog.minimumSizeHint());
+            EXPECT_EQ(size.boundedTo(room), size) << name << ": " << size.width() << " x " << size.height();
+            for (const QPushButton* button : dialog.findChildren<QPushButton*>())
+                EXPECT_TRUE(!button->isVisible() || button->height() >= button->minimumSizeHint().height())
+                    << button->objectName().toStdString() << " is squeezed in " << name;
+        });
+        open();
+        unloadAllForms();
+    }
+    qApp->setStyleSheet({});
+}
