@@ -20,7 +20,8 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr QSize soundIcon(28, 28);
-constexpr int watchTime = 50; // milliseconds
+constexpr int panelHeight = 64; // for two lines of news
+constexpr int watchTime = 50;   // milliseconds
 
 /// The news of each activity, in the order of SoundActivity.
 constexpr QLatin1StringView activityNews[] = {{}, "Playing"_L1, "Paused"_L1, "Recording"_L1, "Paused"_L1};
@@ -98,8 +99,9 @@ SoundCover::SoundCover()
     ways->addLayout(way(Option1, F1));
     ways->addLayout(way(Option2, F2), 1);
     fill(F1, 1, {BtnImport, BtnDelSnd, soundBut});
-    fill(F2, 3, {BtnRec, BtnPauseRec, BtnStopRec, BtnPlay, BtnPause, BtnStop})
-        ->addLayout(panel(), 2, 0, 1, 3);
+    auto* grid = fill(F2, 3, {BtnRec, BtnPauseRec, BtnStopRec, BtnPlay, BtnPause, BtnStop});
+    grid->addLayout(panel(), 2, 0, 1, 3);
+    grid->setRowMinimumHeight(2, panelHeight);
     F2->setEnabled(false);
     Option1->setChecked(true);
     letTabFindTheChosen({Option1, Option2});
