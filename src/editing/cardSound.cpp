@@ -30,7 +30,7 @@ QByteArray readWaveFile(const QString& path)
 
 } // namespace
 
-void meetCardSound()
+void rememberCardSound()
 {
     ignoringErrors({[] { readAndRemember(soundPath(), largestFile); }});
 }

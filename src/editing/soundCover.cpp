@@ -20,11 +20,11 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr QSize soundIcon(28, 28);
-constexpr int panelHeight = 64; // for two lines of news
+constexpr int panelHeight = 64; // for a status of two lines
 constexpr int watchTime = 50;   // milliseconds
 
-/// The news of each activity, in the order of SoundActivity.
-constexpr QLatin1StringView activityNews[] = {{}, "Playing"_L1, "Paused"_L1, "Recording"_L1, "Paused"_L1};
+/// The status text of each activity, in the order of SoundActivity.
+constexpr QLatin1StringView statusOf[] = {{}, "Playing"_L1, "Paused"_L1, "Recording"_L1, "Paused"_L1};
 
 QPushButton* soundButton(const char* name, const QString& caption, const QString& icon, const QString& hint)
 {
@@ -85,7 +85,7 @@ SoundCover::SoundCover()
     , BtnPause(soundButton("BtnPause", u"Pause "_s, u"pause"_s, u"Pause"_s))
     , BtnStop(soundButton("BtnStop", u"Stop"_s, u"endSound"_s, u"Stop"_s))
     , light(named(pictureLabel(u"lightOff"_s, soundIcon), "light"))
-    , news(named(words({}), "news"))
+    , status(named(words({}), "status"))
     , level(named(new QProgressBar, "level"))
     , time(named(words(minutesAndSeconds(0)), "time"))
     , watch(new QTimer(this))
@@ -116,7 +116,7 @@ QLayout* SoundCover::panel()
     level->setAccessibleName(u"Loudness"_s);
     auto* row = new QHBoxLayout;
     row->addWidget(light);
-    row->addWidget(news, 1);
+    row->addWidget(status, 1);
     row->addWidget(level, 1);
     row->addWidget(time);
     return row;
@@ -126,29 +126,29 @@ void SoundCover::connectButtons()
 {
     using enum SoundActivity;
     onToggle(Option2, [this](bool) { chooseWay(); });
-    onClickLater(BtnImport, [this] { letFileBeAdded(); });
-    onClickLater(BtnDelSnd, [this] { letSoundBeRemoved(); });
+    onClickLater(BtnImport, [this] { chooseFile(); });
+    onClickLater(BtnDelSnd, [this] { askAndRemove(); });
     onClick(soundBut, [this] {
         playCardSound(session.selectedCard);
-        follow();
+        showProgress();
     });
     onClick(BtnRec, [this] { startRecording(); });
     onClick(BtnStopRec, [this] { stopRecording(); });
     onClick(BtnPlay, [this] {
         stopRecording();
         withErrorBox(playRecording);
-        follow();
+        showProgress();
     });
     onClick(BtnStop, [this] {
         if (!records(desktop.sound.progress().activity))
             desktop.sound.stop();
-        follow();
+        showProgress();
     });
     for (QPushButton* pause : {BtnPauseRec, BtnPause})
         pause->setCheckable(true);
     onClick(BtnPauseRec, [this] { togglePause(recording, recordingPaused); });
     onClick(BtnPause, [this] { togglePause(playing, playingPaused); });
-    connect(watch, &QTimer::timeout, this, [this] { guarded([this] { follow(); }); });
+    connect(watch, &QTimer::timeout, this, [this] { guarded([this] { showProgress(); }); });
 }
 
 void SoundCover::showOpening(bool cardHasSound)
@@ -160,18 +160,18 @@ void SoundCover::showOpening(bool cardHasSound)
 
 void SoundCover::showEvent(QShowEvent*)
 {
-    if (!met)
-        guarded(meetCardSound);
-    met = true;
+    if (!seen)
+        guarded(rememberCardSound);
+    seen = true;
 }
 
-/// Changing over disables what only acts on a sound, whether the card has one or not.
+/// Buttons that act on an existing sound are disabled, even where the card has a sound.
 void SoundCover::chooseWay()
 {
     const bool own = Option2->isChecked();
     stopRecording();
     desktop.sound.stop();
-    follow();
+    showProgress();
     for (QWidget* part : std::initializer_list<QWidget*>{F1, BtnImport})
         part->setEnabled(!own);
     for (QWidget* part : std::initializer_list<QWidget*>{F2, BtnRec})
@@ -181,7 +181,7 @@ void SoundCover::chooseWay()
     letTabFindTheChosen({Option1, Option2});
 }
 
-void SoundCover::letFileBeAdded()
+void SoundCover::chooseFile()
 {
     const QString file =
         desktop.files.chooseFile(u"Add Sound"_s, desktop.files.documentsFolder(), u"Sound Files (*.wav)"_s);
@@ -191,7 +191,7 @@ void SoundCover::letFileBeAdded()
     BtnDelSnd->setEnabled(true);
 }
 
-void SoundCover::letSoundBeRemoved()
+void SoundCover::askAndRemove()
 {
     desktop.sound.beep();
     if (!desktop.boxes.ask(u"Confirm"_s, u"Are you sure you want to remove sound?"_s))
@@ -206,14 +206,14 @@ void SoundCover::letSoundBeRemoved()
 void SoundCover::startRecording()
 {
     begun = beginRecording();
-    lastNews = begun ? QString() : u"No microphone was found."_s;
+    lastStatus = begun ? QString() : u"No microphone was found."_s;
     time->setText(minutesAndSeconds(0));
     for (QPushButton* button : {BtnPauseRec, BtnStopRec, BtnPlay, BtnPause, BtnStop})
         button->setEnabled(true);
-    follow();
+    showProgress();
 }
 
-QString SoundCover::resultOfRecording() const
+QString SoundCover::recordingResult() const
 {
     return session.editor.recording.isEmpty() ? u"Nothing was recorded."_s : u"Your sound is ready."_s;
 }
@@ -224,8 +224,8 @@ void SoundCover::stopRecording()
         return;
     endRecording();
     begun = false;
-    lastNews = resultOfRecording();
-    follow();
+    lastStatus = recordingResult();
+    showProgress();
 }
 
 void SoundCover::togglePause(SoundActivity running, SoundActivity paused)
@@ -233,24 +233,24 @@ void SoundCover::togglePause(SoundActivity running, SoundActivity paused)
     const SoundActivity now = desktop.sound.progress().activity;
     if (now == running || now == paused)
         desktop.sound.pause(now == running);
-    follow();
+    showProgress();
 }
 
-/// Shows what player and recorder do. A recording may end by itself.
-void SoundCover::follow()
+/// Shows what player and recorder do, and notices a recording that has ended by itself.
+void SoundCover::showProgress()
 {
     const SoundProgress now = desktop.sound.progress();
     if (records(now.activity)) {
         time->setText(minutesAndSeconds(now.recorded));
     } else if (begun) {
         stopRecording();
-        lastNews = u"The recording has stopped. "_s + lastNews;
+        lastStatus = u"The recording has stopped. "_s + lastStatus;
     }
     BtnPauseRec->setChecked(now.activity == SoundActivity::recordingPaused);
     BtnPause->setChecked(now.activity == SoundActivity::playingPaused);
     level->setValue(int(now.level * level->maximum()));
     const bool idle = now.activity == SoundActivity::none;
-    news->setText(idle ? lastNews : activityNews[int(now.activity)]);
+    status->setText(idle ? lastStatus : statusOf[int(now.activity)]);
     showLight(now.activity == SoundActivity::recording);
     idle ? watch->stop() : watch->start();
 }
@@ -266,9 +266,9 @@ void SoundCover::showLight(bool on)
 
 void SoundCover::leave()
 {
-    if (!met)
+    if (!seen)
         return;
     stopRecording();
     leaveCardSound();
-    follow();
+    showProgress();
 }

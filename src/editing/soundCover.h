@@ -21,7 +21,7 @@ public:
     void showOpening(bool cardHasSound);
     /// Ends a recording as its button does.
     void stopRecording();
-    /// The editor is closing: ends all that sounds.
+    /// Stops player and recorder; call it when the editor closes.
     void leave();
 
     QGroupBox* const FMSnd;
@@ -39,7 +39,7 @@ public:
     QPushButton* const BtnPause;
     QPushButton* const BtnStop;
     QLabel* const light;
-    QLabel* const news; // what happens, in a word or two
+    QLabel* const status; // what player and recorder do, or what came of the last recording
     QProgressBar* const level;
     QLabel* const time;
 
@@ -54,17 +54,17 @@ private:
     void connectButtons();
     QLayout* panel();
     void chooseWay();
-    void letFileBeAdded();
-    void letSoundBeRemoved();
+    void chooseFile();
+    void askAndRemove();
     void startRecording();
     void togglePause(SoundActivity running, SoundActivity paused);
-    void follow();
+    void showProgress();
     void showLight(bool on);
-    QString resultOfRecording() const;
+    QString recordingResult() const;
 
-    QTimer* const watch; // runs while anything sounds
-    QString lastNews;    // shown while nothing sounds
+    QTimer* const watch; // runs while player or recorder work
+    QString lastStatus;  // shown while neither works
     bool begun = false;  // a recording that hasn't ended yet
     bool lit = false;
-    bool met = false; // the pupil has seen the page
+    bool seen = false; // the pupil has seen the page
 };
