@@ -10,12 +10,15 @@
 #include <QPlainTextEdit>
 #include <QWindow>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace {
 
 constexpr QSize firstSize(460, 400);
 constexpr QSize leastSize(200, 170);
+constexpr int fromEdges = 24; // of the main window, pixels
 
 // In twips.
 constexpr int besideBox = 400; // on both sides together
@@ -50,6 +53,9 @@ void frmQuestion::present(const QString& clues)
     if (const QWidget* owner = owningWindow(this); owner && !isVisible()) {
         winId(); // makes its window
         windowHandle()->setTransientParent(owner->windowHandle());
+        // Beside the middle, where dialogs appear.
+        move(owner->mapToGlobal(
+            QPoint(std::max(0, owner->width() - width() - fromEdges), menuGreyLine + fromEdges)));
     }
     show();
     raise();

@@ -235,7 +235,13 @@ void reportForm::showReport()
     appendReport(typedText(*design), report);
 }
 
-void reportForm::printReport() { showReportText(*RepBox, reportToPrint(TxtDate, reportText(*RepBox))); }
+/// The heading stays, so that a second printout has two, until the report is made again.
+void reportForm::printReport()
+{
+    showReportText(*RepBox, reportToPrint(TxtDate, reportText(*RepBox)));
+    // RTF1 is as wide, but has no width yet when its tab has never been shown.
+    thinkPrint(reportText(*RepBox), RepBox->width() * session.twipsPerPixelX);
+}
 
 /// Notes that haven't been changed are those of the file, to the character.
 QString reportForm::jotterText() const

@@ -1,65 +1,48 @@
 #include "analysis/report.h"
 
 #include "core/session.h"
-#include "platform/errors.h"
 #include "support/files.h"
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-/// The report on cards of three fields A, B and C.
-QString reportOn(const QString& reportTemplate, const QList<QStringList>& cards)
-{
-    session.numCards = int(cards.size());
-    for (int f = 1; f <= 3; ++f) {
-        session.fieldName[f] = QString(QChar(char16_t(u'A' + f - 1)));
-        for (int card = 1; card <= session.numCards; ++card)
-            session.cardValue[card][f] = cards[card - 1].value(f - 1);
-    }
-    QString report;
-    appendReport(reportTemplate, report);
-    return report;
-}
-
-} // namespace
-
 using Report = Fresh;
 
-TEST_F(Report, FillsTheTagsOfEachCard)
+TEST_F(Report, FillsEachCardsValuesIn)
 {
-    const struct {
-        const char* text;
-        QList<QStringList> cards;
-        const char* report;
-    } cases[] = {
-        {"<<A>> eats <<B>>", {{"Cat", "mice"}, {"Cow", "hay"}}, "Cat eats mice \r\nCow eats hay \r\n"},
-        {"", {{"Cat"}, {"Cow"}}, " \r\n \r\n"},
-        {"<<a>><<D>><A>> <<A>", {{"Cat"}}, "<<a>><<D>><A>> <<A> \r\n"},
-        {"<<A>>", {{"<<B>> and <<C>>", "x<<C>>", "y"}}, "xy and y \r\n"}, // later fields in values are filled
-        {"<<B>>", {{"x", "<<A>>"}}, "<<A>> \r\n"},                        // earlier ones aren't
-        {"<<A>><<A>>", {{""}}, "<<A>> \r\n"}, // the search goes on one character behind an empty value
-        {"<<A>><<A>>", {{"1"}}, "11 \r\n"},
-        {"<<A>>", {{"<<A>>"}}, "<<A>> \r\n"}, // back at the same place, where the search has been
-        {"<<A>>>", {{"x<<A>"}}, "xx<<A> \r\n"},
-    };
-    for (const auto& [text, cards, report] : cases)
-        EXPECT_EQ(reportOn(QString::fromLatin1(text), cards), QString::fromLatin1(report)) << text;
-}
-
-TEST_F(Report, StopsWhereASearchGetsBeyondItsLastCharacter)
-{
-    const QString longest(32766 + 5 - 1, u'x'); // the search ends a tag before the end
-    EXPECT_EQ(reportOn(longest, {{}}).size(), longest.size() + 3);
-    EXPECT_EQ(errorOf([&] { reportOn(longest + u'x', {{}}); }), overflow);
-    const QString grows = u"y<<A>>"_s + QString(300, u'z');
-    const QStringList bomb = {QString(u"<<B>>"_s).repeated(999), QString(u"<<C>>"_s).repeated(999), longest};
-    for (const QStringList& values : {QStringList(u"y<<A>>"_s), QStringList(grows), bomb})
-        EXPECT_EQ(errorOf([&] { reportOn(u"<<A>>"_s, {values}); }), overflow);
-    session.cardValue[1][1] = u"first"_s;
-    session.cardValue[2][1] = grows;
     session.numCards = 2;
-    QString report;
-    EXPECT_EQ(errorOf([&] { appendReport(u"<<A>>"_s, report); }), overflow);
-    EXPECT_EQ(report, u"first \r\n"_s);
+    for (int f = 1; f <= 3; ++f)
+        session.fieldName[f] = QString(QChar(char16_t(u'A' + f - 1)));
+    const QString longest(32766 + 5 - 1, u'x'); // a search ends a tag before the end of the text
+    const QString bomb = u"<<B>>"_s.repeated(999);
+    const struct {
+        QString text;
+        QStringList values; // of the first card; the second one's are 1, 2 and 3
+        QString report;
+        int error = 0;
+    } cases[] = {
+        {u"<<A>> eats <<B>>"_s, {u"Cat"_s, u"mice"_s}, u"Cat eats mice \r\n1 eats 2 \r\n"_s},
+        {{}, {}, u" \r\n \r\n"_s},
+        {u"<<a>><<D>><A>> <<A>"_s, {u"Cat"_s}, u"<<a>><<D>><A>> <<A> \r\n<<a>><<D>><A>> <<A> \r\n"_s},
+        {u"<<A>>"_s, {u"<<B>>, <<C>>"_s, u"x<<C>>"_s, u"y"_s}, u"xy, y \r\n1 \r\n"_s}, // later fields
+        {u"<<B>>"_s, {u"x"_s, u"<<A>>"_s}, u"<<A>> \r\n2 \r\n"_s},                     // earlier ones
+        {u"<<A>><<A>>"_s,
+         {u""_s},
+         u"<<A>> \r\n11 \r\n"_s}, // the search is one character behind the tag's start
+        {u"<<A>>"_s, {u"<<A>>"_s}, u"<<A>> \r\n1 \r\n"_s},
+        {u"<<A>>>"_s, {u"x<<A>"_s}, u"xx<<A> \r\n1> \r\n"_s},
+        {longest, {}, (longest + u" \r\n"_s).repeated(2)},
+        {longest + u'x', {}, {}, overflow},
+        {u"<<A>>"_s, {u"y<<A>>"_s + QString(300, u'z')}, {}, overflow},
+        {u"<<A>>"_s, {bomb, QString(bomb).replace(u'B', u'C'), longest}, {}, overflow},
+    };
+    for (const auto& [text, values, expected, error] : cases) {
+        for (int f = 1; f <= 3; ++f) {
+            session.cardValue[1][f] = values.value(f - 1);
+            session.cardValue[2][f] = QString::number(f);
+        }
+        QString report;
+        EXPECT_EQ(errorOf([&, &text = text] { appendReport(text, report); }), error)
+            << text.left(30).toStdString();
+        EXPECT_EQ(report, expected);
+    }
 }
