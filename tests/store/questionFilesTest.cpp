@@ -7,29 +7,11 @@
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-class QuestionFiles : public Fresh {
-protected:
-    QuestionFiles() { session.dbPath = testFolder().chopped(1); }
-
-    static QByteArrayList kept()
-    {
-        QByteArrayList found;
-        QDirIterator files(testFolder() + u".kept"_s, QDir::Files, QDirIterator::Subdirectories);
-        while (files.hasNext())
-            found.append(bytesOf(files.next()));
-        std::sort(found.begin(), found.end());
-        return found;
-    }
-
-    const QString notes = inTestFolder(u"Questions.txt"_s);
-};
-
-} // namespace
+using QuestionFiles = Fresh;
 
 TEST_F(QuestionFiles, DeletingTheAnswersTouchesNothingElse)
 {
+    session.dbPath = testFolder().chopped(1);
     putFile(inTestFolder(u"ANSWERS.TXT"_s), "x");
     putFile(inTestFolder(u"Questions.txt"_s), "x");
     deleteAnswers();
@@ -39,6 +21,16 @@ TEST_F(QuestionFiles, DeletingTheAnswersTouchesNothingElse)
 
 TEST_F(QuestionFiles, GrowByALineEndWithEachCycleAndKeepWhatOthersHaveWritten)
 {
+    session.dbPath = testFolder().chopped(1);
+    const QString notes = inTestFolder(u"Questions.txt"_s);
+    const auto kept = [] {
+        QByteArrayList found;
+        QDirIterator files(testFolder() + u".kept"_s, QDir::Files, QDirIterator::Subdirectories);
+        while (files.hasNext())
+            found.append(bytesOf(files.next()));
+        std::sort(found.begin(), found.end());
+        return found;
+    };
     EXPECT_EQ(readQuestions(), std::nullopt);
     EXPECT_FALSE(QFile::exists(notes)) << "reading makes no file";
     EXPECT_EQ(openQuestions(), QString());
