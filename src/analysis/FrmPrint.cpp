@@ -46,9 +46,12 @@ QPixmap pagePicture(const PageDrawing& draw)
 /// The face that the card has on the board.
 QPixmap cardPicture(int card)
 {
+    const QImage& onBoard = session.box[card].picture;
+    if (onBoard.isNull())
+        return {};
     const double ratio = desktop.screen.pixelRatio();
-    const QImage face = session.box[card].picture.scaled(cardPreviewSize * ratio, Qt::KeepAspectRatio,
-                                                         Qt::SmoothTransformation);
+    const QImage face =
+        onBoard.scaled(cardPreviewSize * ratio, Qt::KeepAspectRatio, Qt::SmoothTransformation);
     QPixmap picture = QPixmap::fromImage(face);
     picture.setDevicePixelRatio(ratio);
     return picture;
@@ -102,7 +105,7 @@ FrmPrint::FrmPrint()
     column->addWidget(Option4, 0, Qt::AlignLeft);
     column->addLayout(printerRow());
     column->addStretch(1);
-    column->addLayout(answerRow(answers, videoButton()));
+    column->addWidget(answers, 0, Qt::AlignLeft);
     connectControls();
 }
 

@@ -5,6 +5,7 @@
 #include "editing/FieldForm.h"
 #include "editing/design.h"
 #include "editing/frmRemind.h"
+#include "editing/mapImport.h"
 #include "platform/desktop.h"
 
 #include <QBoxLayout>
@@ -43,7 +44,6 @@ DesignForm::DesignForm()
 {
     setObjectName(u"DesignForm"_s);
     setWindowTitle(u"Design Cards"_s);
-    mapBut->setEnabled(false); // background pictures can't be imported yet
 
     auto* rows = fieldRows();
     auto* side = new QVBoxLayout;
@@ -152,6 +152,7 @@ void DesignForm::connectControls()
                 session.cardSize = qint16(size);
         });
     onToggle(ChkRD, [](bool ticked) { session.design.ChkRD = ticked; });
+    onClickLater(mapBut, layMapUnderCards);
     onClickLater(answers->ok, [this] { confirm(); });
     onClick(answers->cancel, [] { answerAndUnload<DesignForm>(u"Cancel"_s); });
 }

@@ -1,6 +1,7 @@
 #include "platform/bitmapFile.h"
 
 #include "platform/errors.h"
+#include "platform/stretching.h"
 #include "platform/wholeImage.h"
 
 #include <QBuffer>
@@ -8,6 +9,7 @@
 #include <QtEndian>
 
 #include <algorithm>
+#include <cmath>
 
 namespace {
 
@@ -97,11 +99,8 @@ void showWhenAllTransparent(QImage& picture)
     picture.reinterpretAsFormat(QImage::Format_RGB32);
 }
 
-} // namespace
-
-QImage decodeBitmap(const QByteArray& bytes)
+QImage decodeWhole(const QByteArray& bytes)
 {
-    checkBitmap(bytes);
     QBuffer buffer;
     buffer.setData(bytes);
     buffer.open(QIODevice::ReadOnly);
@@ -109,4 +108,57 @@ QImage decodeBitmap(const QByteArray& bytes)
     QImage picture = readWholeImage(reader);
     showWhenAllTransparent(picture);
     return picture;
+}
+
+template <class T>
+void putAt(QByteArray& bytes, qsizetype offset, T value)
+{
+    qToLittleEndian(value, bytes.data() + offset);
+}
+
+/// By how much a bitmap must be thinned out to be decoded; 1 for one that can be as it is, or not at all.
+int thinningOf(const QByteArray& file, const BitmapMeasures& bitmap)
+{
+    const bool old = valueAt<quint32>(file, fileHeaderSize) == oldHeaderSize;
+    if (old || bitmap.bits < 16 || bitmap.hasRunLengths())
+        return 1;
+    const double limit = QImageReader::allocationLimit() * 1024.0 * 1024.0;
+    const double needed = 4.0 * double(bitmap.width) * double(std::abs(bitmap.height));
+    return limit > 0 ? int(std::ceil(std::sqrt(std::max(1.0, needed / limit)))) : 1;
+}
+
+/// The bitmap file with each `step`th pixel of each `step`th row.
+QByteArray thinnedOut(const QByteArray& file, const BitmapMeasures& bitmap, int step)
+{
+    BitmapMeasures thin = bitmap;
+    thin.width = bitmap.width / step;
+    thin.height = bitmap.height / step;
+    const qsizetype pixelBytes = bitmap.bits / 8;
+    const qint64 rows = std::abs(thin.height);
+    QByteArray bytes(thin.pixelsFrom + thin.rowBytes() * rows, '\0');
+    std::copy_n(file.cbegin(), bitmap.pixelsFrom, bytes.begin());
+    putAt(bytes, 18, qint32(thin.width));
+    putAt(bytes, 22, qint32(thin.height));
+    putAt(bytes, 34, quint32(thin.rowBytes() * rows));
+    for (qint64 y = 0; y < rows; ++y) {
+        const char* from = file.constData() + bitmap.pixelsFrom + y * step * bitmap.rowBytes();
+        char* to = bytes.data() + thin.pixelsFrom + y * thin.rowBytes();
+        for (qint64 x = 0; x < thin.width; ++x)
+            std::copy_n(from + x * step * pixelBytes, pixelBytes, to + x * pixelBytes);
+    }
+    return bytes;
+}
+
+} // namespace
+
+QImage decodeBitmap(const QByteArray& bytes, QSize needed)
+{
+    checkBitmap(bytes);
+    const BitmapMeasures bitmap = measuresOf(bytes);
+    const int step = needed.isEmpty() ? 1 : thinningOf(bytes, bitmap);
+    if (step == 1)
+        return decodeWhole(bytes);
+    const QImage thin = decodeWhole(thinnedOut(bytes, bitmap, step));
+    const QSize covering = thin.size().scaled(needed, Qt::KeepAspectRatioByExpanding);
+    return covering.width() < thin.width() ? stretched(thin, covering) : thin;
 }

@@ -14,7 +14,8 @@
 
 namespace {
 
-constexpr QSize sizeOfDrawings(640, 480); // which have no pixels of their own
+constexpr qint64 largestToShrink = 2 * largestFile; // 100 megapixels without compression
+constexpr QSize sizeOfDrawings(640, 480);           // which have no pixels of their own
 
 /// Formats that are pictures and nothing else. An SVG file could read other files, or unpack without an end.
 constexpr const char* allowedFormats[] = {"gif", "ico",  "jpeg", "pbm", "pgm", "png",
@@ -53,12 +54,15 @@ QImage decodeOther(const QByteArray& bytes, QSize needed)
 
 } // namespace
 
-QImage readPicture(const QString& path, QSize needed) { return decodePicture(readWholeFile(path), needed); }
+QImage readPicture(const QString& path, QSize needed)
+{
+    return decodePicture(readWholeFile(path, needed.isEmpty() ? largestFile : largestToShrink), needed);
+}
 
 QImage decodePicture(const QByteArray& bytes, QSize needed)
 {
     if (isBitmap(bytes))
-        return decodeBitmap(bytes);
+        return decodeBitmap(bytes, needed);
     if (beginsAsMetafile(bytes))
         return playMetafile(bytes, needed.isEmpty() ? sizeOfDrawings : needed);
     return decodeOther(bytes, needed);

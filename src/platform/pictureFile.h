@@ -6,9 +6,9 @@
 #include <QString>
 
 /// The picture in a file, upright, as 32-bit pixels. The content decides the format, not the name. A photo or
-/// a metafile is decoded with no more pixels than it takes to cover `needed` in its own proportions; other
-/// formats, and all without `needed`, come whole. Raises 481 when it isn't a complete picture, and what
-/// readWholeFile() raises.
+/// a metafile is decoded with no more pixels than it takes to cover `needed` in its own proportions, and so
+/// is a bitmap too large for memory; other formats, and all without `needed`, come whole. Raises 481 when it
+/// isn't a complete picture, and what readWholeFile() raises.
 QImage readPicture(const QString& path, QSize needed = {});
 
 /// The picture in the bytes of a file. Raises 481 as readPicture() does.

@@ -118,18 +118,19 @@ bool sendToCups(const QString& name, const QString& title, const QByteArray& pdf
     const Destination printer(cups.get(), name);
     if (!printer.get())
         return false;
-    const char* queue = printer.get()->name;
+    cups_dest_t& to = *printer.get();
+    // The pages have the printer's own size, and everything on them its place.
+    to.num_options = cupsAddOption("print-scaling", "none", to.num_options, &to.options);
     const QByteArray words = title.toUtf8();
-    const int job = cupsCreateJob(cups.get(), queue, words.constData(), printer.get()->num_options,
-                                  printer.get()->options);
+    const int job = cupsCreateJob(cups.get(), to.name, words.constData(), to.num_options, to.options);
     if (job == 0)
         return false;
     const bool sent =
-        cupsStartDocument(cups.get(), queue, job, words.constData(), CUPS_FORMAT_PDF, 1) == HTTP_CONTINUE &&
+        cupsStartDocument(cups.get(), to.name, job, words.constData(), CUPS_FORMAT_PDF, 1) == HTTP_CONTINUE &&
         cupsWriteRequestData(cups.get(), pdf.constData(), std::size_t(pdf.size())) == HTTP_CONTINUE &&
-        cupsFinishDocument(cups.get(), queue) <= IPP_OK_CONFLICT;
+        cupsFinishDocument(cups.get(), to.name) <= IPP_OK_CONFLICT;
     if (!sent)
-        cupsCancelJob2(cups.get(), queue, job, 1);
+        cupsCancelJob2(cups.get(), to.name, job, 1);
     return sent;
 }
 

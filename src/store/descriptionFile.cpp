@@ -71,20 +71,11 @@ void applyStatus()
     session.design.ChkRD = readOnly;
 }
 
-/// An empty name removes the board's background. A name without a folder means a file in the database's
-/// folder.
+/// An empty name removes the board's background.
 void loadBackground()
 {
     const QString& name = session.backgroundPicture;
-    // Cards lie on places of a map, so it keeps its pixels on every screen; only a photo larger than any is
-    // shrunk.
-    const QSize needed(3840, 2400);
-    if (name.isEmpty())
-        session.backgroundImage = {};
-    else if (QDir::isRelativePath(name))
-        session.backgroundImage = readPicture(filePathIn(session.dbPath, name), needed);
-    else
-        session.backgroundImage = readPicture(cleanPath(name), needed);
+    session.backgroundImage = name.isEmpty() ? QImage() : readBackground(name);
 }
 
 QByteArray descriptionBytes()
@@ -163,4 +154,13 @@ void writeDbInfo()
             keepVersions({path});
         replaceAndRemember(path, bytes);
     });
+}
+
+QImage readBackground(const QString& name)
+{
+    // Cards lie on places of a map, so it keeps its pixels on every screen; only one larger than any screen
+    // is shrunk.
+    const QSize needed(3840, 2400);
+    return readPicture(QDir::isRelativePath(name) ? filePathIn(session.dbPath, name) : cleanPath(name),
+                       needed);
 }

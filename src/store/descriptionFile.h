@@ -4,6 +4,7 @@
 
 #include "store/paths.h"
 
+#include <QImage>
 #include <QString>
 
 /// Sets session.dbVersion from the file's last line, "1.0.0" when it holds none. Errors of reading the file
@@ -19,3 +20,7 @@ void readDbInfo();
 /// not read, or not read whole, is kept first. A failure is shown in the error box, 75 when there is a
 /// description that couldn't be read.
 void writeDbInfo();
+
+/// The picture of that name as the board's background; a name without a folder means a file in the database's
+/// folder. Raises as readPicture().
+QImage readBackground(const QString& name);

@@ -3,6 +3,8 @@
 #include "support/files.h"
 
 #include <QBuffer>
+#include <QImageReader>
+#include <QPainter>
 #include <QtEndian>
 
 using namespace Qt::StringLiterals;
@@ -130,6 +132,23 @@ TEST_F(PictureFile, HeadersThatAskForTooMuchAreRefused)
         EXPECT_EQ(errorOf([&, picture = &bitmap] { decodePicture(picture->bytes()); }), invalidPicture)
             << name;
     EXPECT_EQ(decodePicture(Bitmap{.height = -2}.bytes()).size(), QSize(2, 2)) << "the top row first";
+}
+
+TEST_F(PictureFile, ABitmapTooLargeForMemoryIsThinnedOutWhereThatIsEnough)
+{
+    QImage map(1000, 700, QImage::Format_RGB32); // 2.7 MB
+    map.fill(Qt::green);
+    QPainter(&map).fillRect(0, 0, 500, 350, Qt::red);
+    const QByteArray bytes = bitmapBytes(map);
+    const int usual = QImageReader::allocationLimit();
+    QImageReader::setAllocationLimit(1);
+    EXPECT_EQ(errorOf([&] { decodePicture(bytes); }), invalidPicture);
+    const QImage thin = decodePicture(bytes, {300, 200});
+    QImageReader::setAllocationLimit(usual);
+    EXPECT_EQ(thin.size(), QSize(300, 210));
+    EXPECT_EQ(thin.pixelColor(145, 100), QColor(Qt::red));
+    EXPECT_EQ(thin.pixelColor(145, 110), QColor(Qt::green));
+    EXPECT_EQ(thin.pixelColor(155, 100), QColor(Qt::green));
 }
 
 TEST_F(PictureFile, AnEmptyAlphaIsTakenAsOpaque)

@@ -84,7 +84,11 @@ TEST_F(Dispatch, EveryCommandFirstClearsTheTableAndClosesTheMenu)
     EXPECT_FALSE(session.menu.MenuHolder.visible);
     EXPECT_FALSE(session.board.SelectBox.visible);
     EXPECT_EQ(session.menu.openMenuIndex, -1);
-    session.board.searchTitle.visible = true;
+}
+
+TEST_F(Dispatch, PrintingKeepsTheCaptionsOnTheBoard)
+{
+    recorded.dialogSteps.push_back([](QDialog& dialog) { EXPECT_EQ(dialog.windowTitle(), u"Print"_s); });
     choose("Print...");
     EXPECT_TRUE(session.board.searchTitle.visible) << "captions are printed";
 }
