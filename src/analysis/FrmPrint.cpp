@@ -12,6 +12,7 @@
 #include "store/options.h"
 
 #include <QBoxLayout>
+#include <QGridLayout>
 #include <QRadioButton>
 #include <QStyle>
 
@@ -21,7 +22,7 @@ namespace {
 
 constexpr QSize previewSize(226, 160);
 constexpr QSize cardPreviewSize(160, 120);
-constexpr int columnWidth = 250;
+constexpr int columnWidth = 290;
 
 QLabel* preview(const char* name)
 {
@@ -111,22 +112,22 @@ FrmPrint::FrmPrint()
 
 QLayout* FrmPrint::choiceRow()
 {
-    auto* row = new QHBoxLayout;
-    row->setSpacing(12);
+    auto* grid = new QGridLayout;
+    grid->setHorizontalSpacing(12);
+    grid->setVerticalSpacing(4);
+    int column = 0;
     for (const Choice& choice : choices) {
-        auto* column = new QVBoxLayout;
-        column->setSpacing(4);
         choice.preview->setFixedSize(columnWidth, previewSize.height() + 20);
         choice.preview->installEventFilter(this);
         choice.option->setAccessibleDescription(choice.words->text());
         choice.words->setFixedWidth(columnWidth);
         choice.words->setAlignment(Qt::AlignTop | Qt::AlignLeft);
-        column->addWidget(choice.preview);
-        column->addWidget(choice.option);
-        column->addWidget(choice.words, 1);
-        row->addLayout(column);
+        grid->addWidget(choice.preview, 0, column);
+        grid->addWidget(choice.option, 1, column);
+        grid->addWidget(choice.words, 2, column, Qt::AlignTop);
+        ++column;
     }
-    return row;
+    return grid;
 }
 
 QLayout* FrmPrint::printerRow()
@@ -162,6 +163,10 @@ void FrmPrint::load()
         choice.option->setEnabled(possible);
         choice.words->setEnabled(possible);
         choice.preview->setEnabled(possible);
+    }
+    for (const Choice& choice : choices) {
+        choice.words->ensurePolished(); // its lines are as high as the style sheet's font
+        choice.words->setMinimumHeight(choice.words->heightForWidth(columnWidth));
     }
     letTabFindTheChosen({Option1, Option2, Option3});
     showPreviews();

@@ -7,6 +7,7 @@
 #include <QTimer>
 
 #include <cups/cups.h>
+#include <cups/pwg.h>
 
 #include <chrono>
 #include <future>
@@ -85,14 +86,20 @@ Printers listPrinters()
     return list;
 }
 
+/// The name of the printer's default, asked for itself: cupsGetDestMediaDefault() gives Letter for printers
+/// of A4.
 QSizeF usualPaper(http_t* cups, cups_dest_t* printer)
 {
     cups_dinfo_t* details = cupsCopyDestInfo(cups, printer);
-    cups_size_t paper{};
-    const bool known =
-        details && cupsGetDestMediaDefault(cups, printer, details, CUPS_MEDIA_FLAGS_DEFAULT, &paper);
+    if (!details)
+        return {};
+    QSizeF paper;
+    ipp_attribute_t* named = cupsFindDestDefault(cups, printer, details, CUPS_MEDIA);
+    const char* name = named ? ippGetString(named, 0, nullptr) : nullptr;
+    if (const pwg_media_t* known = name ? pwgMediaForPWG(name) : nullptr)
+        paper = QSizeF(known->width, known->length) * pointsPerUnit;
     cupsFreeDestInfo(details);
-    return known ? QSizeF(paper.width, paper.length) * pointsPerUnit : QSizeF();
+    return paper;
 }
 
 PrinterAnswer askCups(const QString& name)

@@ -3,6 +3,7 @@
 Each sheet is read back by other programs and compared with what the screen shows. Then the printer is disabled, rejects
 jobs and vanishes, and its server with it: each time a box says so and nothing is printed."""
 
+import re
 import sys
 import time
 
@@ -27,6 +28,10 @@ def make_database(tour):
         (folder / f"{name}.tcd").write_bytes("".join(f'"{text}"\r\n' for text in ("01000200", *values)).encode())
         tour.desk.run("convert", "-size", "159x120", "gradient:skyblue-khaki", f"BMP3:{folder / name}.bmp")
     return folder
+
+
+class PrintTour(Tour):
+    HARMLESS = re.compile(r"^QAccessibleTable::child: Invalid index")  # Qt, of the list of files in its save dialog
 
 
 class Formulas:
@@ -207,10 +212,10 @@ def faults(tour, shop):
             tour.desk.run(*mends)
         else:
             shop.set_up("Hall")
-        tour.check(shop.job_numbers() == jobs, f"{what}: a job was taken")
+        tour.check(set(shop.job_numbers()) <= set(jobs), f"{what}: a job was taken")
 
 
-with Tour("print") as tour:
+with PrintTour("print") as tour:
     tour.pictures.mkdir(parents=True)
     shop = PrintShop(tour.desk, ["Hall", "Office"])
     tour.settings.set("Last DB", "Path", str(make_database(tour)))

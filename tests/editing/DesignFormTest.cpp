@@ -154,7 +154,7 @@ TEST_F(Design, IsReachedByKeysWithEveryFieldAndDoesNotGrowUnderAChildsHand)
             reached.insert(at);
             QTest::keyClick(at, Qt::Key_Tab);
         }
-        EXPECT_EQ(reached.size(), 12 + 2 + 1 + 1 + 2 + 1)
-            << "fields, spin buttons, the chosen size, read-only, OK, Cancel, video";
+        EXPECT_EQ(reached.size(), 12 + 2 + 1 + 1 + 1 + 2 + 1)
+            << "fields, spin buttons, the chosen size, read-only, map, OK, Cancel, video";
     });
 }
