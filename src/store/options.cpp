@@ -1,5 +1,6 @@
 #include "store/options.h"
 
+#include "core/session.h"
 #include "platform/desktop.h"
 #include "platform/errors.h"
 #include "platform/profileFile.h"
@@ -19,10 +20,15 @@ bool isAbsolute(const QString& path)
     return path.startsWith(u'/') || path.startsWith(u'\\') || path.mid(1).startsWith(u':');
 }
 
+QString keyOf(const Option& option) { return latin(option.section) + u'\n' + latin(option.key); }
+
 } // namespace
 
 QString read(const Option& option)
 {
+    if (const auto kept = session.options.unwritten.constFind(keyOf(option));
+        kept != session.options.unwritten.constEnd())
+        return *kept;
     return readSetting(settingsFile(), latin(option.section), latin(option.key), latin(option.absent));
 }
 
@@ -43,17 +49,21 @@ QString fullFolder(const QString& path)
     return joinPath(desktop.files.programFolder(), path);
 }
 
-void write(const Option& option, const QString& value)
-{
-    writeSetting(settingsFile(), latin(option.section), latin(option.key), value);
-}
+void write(const Option& option, const QString& value) { writeSettings({{option, value}}); }
 
 bool writeSettings(const QList<Setting>& settings)
 {
     QList<ProfileLine> lines;
     for (const auto& [option, value] : settings)
         lines.append({latin(option.section), latin(option.key), value});
-    return writeProfile(lines, settingsFile());
+    const bool written = writeProfile(lines, settingsFile());
+    for (const auto& [option, value] : settings) {
+        if (written)
+            session.options.unwritten.remove(keyOf(option));
+        else
+            session.options.unwritten.insert(keyOf(option), value);
+    }
+    return written;
 }
 
 QString resolvedFolder(const QString& workingFolder)

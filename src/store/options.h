@@ -83,7 +83,7 @@ QString readFolder(const Option& option);
 /// The same for a value that has been read already.
 QString fullFolder(const QString& path);
 
-/// Leaves all other settings. A file that can't be written is not reported.
+/// Leaves all other settings. What can't be written counts until the program ends; that is not reported.
 void write(const Option& option, const QString& value);
 
 /// Writes them all in one replacement of the file: a reader never finds some old and some new. False when

@@ -24,8 +24,13 @@ WRITTEN = {
 }
 
 
+def no_options(tour):
+    tour.check(TITLE not in tour.windows(), "the options are open")
+
+
 def open_options(tour, chord=CHORD):
     tour.window("Tallymoor Release")
+    no_options(tour)  # nothing before has opened them
     tour.key(chord)
     return tour.dialog(TITLE)
 
@@ -33,10 +38,6 @@ def open_options(tour, chord=CHORD):
 def turn_to(tour, page):
     tour.click(tour.find("page tab", page))
     tour.wait_until(lambda: tour.find("page tab list").name == page, f"the page {page}")
-
-
-def no_options(tour):
-    tour.check(TITLE not in tour.windows(), "the options are open")
 
 
 def see_pages(tour):

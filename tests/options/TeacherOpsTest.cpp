@@ -6,6 +6,7 @@
 #include "core/mainView.h"
 #include "database/FileForm.h"
 #include "editing/DesignForm.h"
+#include "editing/design.h"
 #include "editing/editCard.h"
 #include "options/aboutPage.h"
 #include "support/files.h"
@@ -101,11 +102,17 @@ TEST_F(TeachersOptions, ActWhereAndWhenTheyShould)
         bool afterRestart;
     };
     const Case cases[] = {
-        {"ChkUp", upDisabled, true, true},     {"ChkRefresh", refreshHidden, true, true},
-        {"ChkSnd", soundOffered, true, true},  {"ChkDBRO", readOnlyDisabled, true, true},
-        {"chkDelCrd", staysWhere, true, true}, {"ChkSens", withCase, true, true},
-        {"cols0", redCaptions, true, true},    {"colsBord3", greenFrame, true, true},
-        {"chkDBLock", cardLocked, true, true}, {"chkDBLock", lockRemembered, false, true},
+        {"ChkUp", upDisabled, true, true},
+        {"ChkRefresh", refreshHidden, true, true},
+        {"ChkSnd", soundOffered, true, true},
+        {"ChkDBRO", readOnlyDisabled, true, true},
+        {"ChkRemind", reminderWanted, true, true},
+        {"chkDelCrd", staysWhere, true, true},
+        {"ChkSens", withCase, true, true},
+        {"cols0", redCaptions, true, true},
+        {"colsBord3", greenFrame, true, true},
+        {"chkDBLock", cardLocked, true, true},
+        {"chkDBLock", lockRemembered, false, true},
         {"ChkClue", cluesShown, false, false}, // lost: there is a working folder
     };
     for (const auto& [control, effect, atOnce, afterRestart] : cases) {
