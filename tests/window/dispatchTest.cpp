@@ -88,6 +88,7 @@ TEST_F(Dispatch, EveryCommandFirstClearsTheTableAndClosesTheMenu)
 
 TEST_F(Dispatch, PrintingKeepsTheCaptionsOnTheBoard)
 {
+    session.board.searchTitle.visible = true;
     recorded.dialogSteps.push_back([](QDialog& dialog) { EXPECT_EQ(dialog.windowTitle(), u"Print"_s); });
     choose("Print...");
     EXPECT_TRUE(session.board.searchTitle.visible) << "captions are printed";
