@@ -2,6 +2,7 @@
 
 #include "analysis/copying.h"
 #include "analysis/report.h"
+#include "analysis/thinkPrint.h"
 #include "controls/dialogParts.h"
 #include "controls/plainText.h"
 #include "core/session.h"

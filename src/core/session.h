@@ -182,7 +182,7 @@ struct OptionBoxes {
     QString txtDBLock = QStringLiteral("0");
     QString txtDelRandomCard = QStringLiteral("1");
     QHash<QString, QString> unwritten; // settings that could not be written, until the program ends
-    qint16 soundStatus = 0;                          // 1: the card editor has its sound page
+    qint16 soundStatus = 0;            // 1: the card editor has its sound page
     QString roOptionStatus = QStringLiteral("RW");   // "RW": a database may be marked read-only
     QString upLevelStatus = QStringLiteral("False"); // "True": the file dialog stays in its folder
     QString boardKeys = QStringLiteral("0");         // "1": keys reach the cards on the board

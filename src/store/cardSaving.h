@@ -18,7 +18,7 @@ void saveCardPicture(int card);
 void writeCardSound(int card, const QByteArray& waveFile);
 
 /// Writes the card as the editor shows it: its sound, if one is given, its record, and its picture when that
-/// was changed in the editor or has no file. A damaged record stays as it is while all boxes are empty. Returns
-/// true when another workstation's version was kept. Raises the first error; what wasn't written by then stays
-/// unchanged, in the session too.
+/// was changed in the editor or has no file. A damaged record stays as it is while all boxes are empty.
+/// Returns true when another workstation's version was kept. Raises the first error; what wasn't written by
+/// then stays unchanged, in the session too.
 bool writeEditedCard(int card, const QByteArray& waveFile = {});
