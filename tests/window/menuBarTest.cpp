@@ -90,6 +90,7 @@ TEST_F(MenuBarOnWindow, FramesTheHeadingAndLightsTheLineUnderTheMouse)
 
     click(bar.MenuTop[1]);
     EXPECT_TRUE(bar.MenuHolder->rect().contains(bar.menuHighlight[4]->geometry()));
+    EXPECT_GT(bar.menuHighlight[4]->y(), bar.menuHighlight[3]->y());
     EXPECT_EQ(lit(), -1);
     moveTo(bar.menuCaption[3]);
     EXPECT_EQ(lit(), 3);
