@@ -8,7 +8,7 @@ PLATFORM = r"src/platform/\w+\.(cpp|h)"
 
 RULES = [
     (r"QMessageBox\b", "desktop.boxes.showMessage or desktop.boxes.ask", DESKTOP),
-    (r"QFileDialog\b", "desktop.files.chooseFolder or desktop.files.chooseFile", rf"{DESKTOP}|src/platform/pictureChooser\.cpp"),
+    (r"QFileDialog\b", "desktop.files.chooseFolder or desktop.files.chooseFile", rf"{DESKTOP}|src/platform/(pictureChooser|readOnlyChooser)\.(cpp|h)"),
     (r"QColorDialog\b", "desktop.boxes.chooseColour", DESKTOP),
     (r"QInputDialog\b", "a form of our own", DESKTOP),
     (r"Q(Gui)?Application::beep\b", "desktop.sound.beep", DESKTOP),

@@ -296,6 +296,8 @@ struct Session {
     QString dbVersion;                    // "1.0.0" or "1.1.0"
     bool descriptionWhole = true;         // nothing in the description failed to be read
     QHash<QString, FileState> fileStates; // by path
+    QHash<QString, FileState> toldStates; // by path: the files that a box has told of, as they were then
+    bool inRefresh = false;               // a tick of the refresh is reading the folder
     QString databaseStatus = QStringLiteral("RW");
     QString backgroundPicture = QStringLiteral("none");
     QImage backgroundImage; // the loaded background, null when there is none

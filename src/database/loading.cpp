@@ -6,26 +6,31 @@
 #include "core/session.h"
 #include "core/title.h"
 #include "platform/errors.h"
+#include "platform/pictureFile.h"
 #include "platform/wholeFile.h"
 #include "store/cardFiles.h"
 #include "store/descriptionFile.h"
+#include "store/fileStates.h"
 
 #include <QFile>
 #include <QHash>
 
 #include <algorithm>
 #include <filesystem>
+#include <functional>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Whether the entry is a file. One that was deleted meanwhile is not; any other failure is the whole
-/// folder's, since a failing share must not look like deleted cards.
+/// Whether the entry is a file. One that was deleted meanwhile is not, nor is a link that leads nowhere or in
+/// a circle; any other failure is the whole folder's, since a failing share must not look like deleted cards.
 bool isFile(const std::filesystem::directory_entry& entry, std::error_code& failed)
 {
     const bool file = entry.is_regular_file(failed);
-    if (failed == std::errc::no_such_file_or_directory)
+    std::error_code unknown;
+    if (failed == std::errc::no_such_file_or_directory || (failed && entry.is_symlink(unknown)))
         failed.clear();
     return file;
 }
@@ -35,7 +40,8 @@ bool namesRecord(const QString& name)
     return name.endsWith(recordEnding, Qt::CaseInsensitive) && !name.startsWith(u'.');
 }
 
-/// The names of the record files in the order of the cards. Raises 76 when the folder can't be listed.
+/// The names of the record files in the order of the cards. Raises 76 when the folder can't be listed, 9 when
+/// there are more than the tables hold.
 QStringList recordFiles(const QString& folder)
 {
     namespace fs = std::filesystem;
@@ -51,6 +57,8 @@ QStringList recordFiles(const QString& folder)
     }
     if (failed)
         throw RuntimeError(pathNotFound);
+    if (names.size() > lastCard)
+        throw RuntimeError(outOfRange);
     std::sort(names.begin(), names.end(),
               [](const QString& one, const QString& other) { return one.toUpper() < other.toUpper(); });
     return names;
@@ -89,6 +97,25 @@ private:
     bool drawn = false;
 };
 
+/// Runs a routine that reads the card's picture or shows it. False when it fails, after an error box unless
+/// there was one already for this very state of the file.
+bool usePicture(int card, const std::function<void()>& routine)
+{
+    QString problem;
+    try {
+        routine();
+        return true;
+    } catch (...) {
+        problem = currentErrorDescription();
+    }
+    const QString path = cardPicturePath(card);
+    if (!alreadyTold(path)) {
+        rememberTold(path);
+        showErrorBox(problem);
+    }
+    return false;
+}
+
 void FaceLoader::load(int card)
 {
     const bool read = readPictureBytes(card);
@@ -108,24 +135,25 @@ void FaceLoader::load(int card)
         loadCardPicture(card);
     } else if (read) {
         decodePassedOver(); // a picture that can't be decoded leaves Picture1 as it was
-        shown = showCardPicture(bytes);
+        shown = usePicture(card, [this] { session.editor.Picture1.image = decodePicture(bytes); });
     }
     drawCardFace(card);
     drawn = true;
     if (shown) {
+        session.toldStates.remove(cardPicturePath(card));
         LoadedFace made = wanted;
         made.face = session.box[card].picture;
         faces.insert(id, made);
     }
 }
 
-/// False when the file can't be read; an error box is shown.
+/// False when the file can't be read.
 bool FaceLoader::readPictureBytes(int card)
 {
     bytes.clear();
     if (session.cardSize == stripSize)
         return true;
-    const bool read = withErrorBox([&] { bytes = readCardPicture(card); });
+    const bool read = usePicture(card, [&] { bytes = readCardPicture(card); });
     if (!read)
         decodePassedOver();
     return read;
@@ -169,6 +197,12 @@ bool placeWhenHidden(int card)
     return true;
 }
 
+/// No card of a read-only database is thrown away. True when the bin was shown.
+bool hideBinWhenReadOnly()
+{
+    return session.databaseStatus == "RO"_L1 && std::exchange(session.board.BigBin.visible, false);
+}
+
 void placeWhenWithoutPlace(int card)
 {
     const CardImage& image = session.box[card];
@@ -205,7 +239,8 @@ void loadAllCards()
     if (session.selectedCard > session.numCards)
         session.board.SelectBox.visible = false; // the card in the frame has gone
     FaceLoader faces;
-    bool changed = before != session.numCards || background != session.backgroundImage.cacheKey();
+    bool changed = hideBinWhenReadOnly() || before != session.numCards ||
+                   background != session.backgroundImage.cacheKey();
     for (int card = 1; card <= session.numCards; ++card) {
         session.cardId[card] = cardIdOf(files[card - 1]);
         session.recordName[card] = files[card - 1];

@@ -39,7 +39,12 @@ void turn(bool on)
 /// Qt doesn't emit a timer's signal again while its slot runs.
 void tick()
 {
-    if (!QGuiApplication::modalWindow() && !readFolder())
+    if (QGuiApplication::modalWindow())
+        return;
+    session.inRefresh = true;
+    const bool read = readFolder();
+    session.inRefresh = false;
+    if (!read)
         turn(false);
 }
 

@@ -3,6 +3,7 @@
 #include "platform/errands.h"
 #include "platform/owningWindow.h"
 #include "platform/pictureFile.h"
+#include "platform/readOnlyChooser.h"
 
 #include <QFileDialog>
 #include <QFileInfo>
@@ -68,12 +69,12 @@ QString choosePictureFile(const QString& caption, const QString& startFolder, co
 {
     QFileDialog dialog(owningWindow(), caption, startFolder, filter);
     dialog.setFileMode(QFileDialog::ExistingFile);
-    dialog.setOption(QFileDialog::DontUseNativeDialog);
+    dialog.setOption(QFileDialog::DontUseNativeDialog); // the layout below is that of Qt's own dialog
     dialog.setOption(QFileDialog::HideNameFilterDetails); // there is no room for the endings
     dialog.resize(dialogSize);
     auto* preview = new Preview;
     auto* grid = static_cast<QGridLayout*>(dialog.layout());
     grid->addWidget(preview, 1, grid->columnCount(), Qt::AlignTop);
     QObject::connect(&dialog, &QFileDialog::currentChanged, preview, &Preview::showFile);
-    return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
+    return chosenIn(dialog);
 }

@@ -8,6 +8,7 @@
 #include "platform/picture.h"
 #include "platform/pictureChooser.h"
 #include "platform/printers.h"
+#include "platform/readOnlyChooser.h"
 #include "platform/roundPace.h"
 #include "platform/soundDevices.h"
 
@@ -75,12 +76,6 @@ QColor chooseColour(const QString& title, const QColor& present)
     dialog.setWindowTitle(title);
     dialog.setOption(QColorDialog::DontUseNativeDialog);
     return dialog.exec() == QDialog::Accepted ? dialog.selectedColor() : QColor();
-}
-
-QString chosenIn(QFileDialog& dialog)
-{
-    dialog.setOption(QFileDialog::DontUseNativeDialog);
-    return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
 }
 
 QString chooseFolder(const QString& caption, const QString& startFolder)

@@ -5,7 +5,7 @@
 #include <QString>
 
 inline constexpr qint64 largestFile = 256 << 20;   // bytes; every file of a database is smaller
-inline constexpr qint64 largestTextFile = 4 << 20; // of a file of items
+inline constexpr qint64 largestTextFile = 1 << 20; // of a file of items
 
 /// Returns the bytes of a regular file. Raises 53 when it doesn't exist, 76 when its folder doesn't, 75 when
 /// it can't be read or isn't a regular file, 7 when it is larger than `limit`, and 57, 68 or 70 for a failing

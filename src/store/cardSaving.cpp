@@ -1,6 +1,7 @@
 #include "store/cardSaving.h"
 
 #include "core/session.h"
+#include "platform/folderLock.h"
 #include "platform/pictureFile.h"
 #include "platform/textFile.h"
 #include "store/cardFiles.h"
@@ -149,6 +150,7 @@ bool pictureNeeded(int card)
 void saveCardValues(int card)
 {
     withErrorBox([card] {
+        const FolderLock lock(session.dbPath);
         takeBoxes(card);
         const Writing record = recordWriting(card);
         keepBefore({&record});
@@ -162,6 +164,7 @@ void saveCardPicture(int card)
     if (session.cardSize == stripSize)
         return;
     withErrorBox([card] {
+        const FolderLock lock(session.dbPath);
         const Writing picture = pictureWriting(card);
         keepBefore({&picture});
         write(picture);
@@ -177,6 +180,7 @@ void writeCardSound(int card, const QByteArray& waveFile)
 
 bool writeEditedCard(int card, const QByteArray& waveFile)
 {
+    const FolderLock lock(session.dbPath);
     const Writing record = recordWriting(card);
     const Writing none{{}, {}, false};
     const Writing picture = pictureNeeded(card) ? pictureWriting(card) : none;

@@ -3,6 +3,7 @@
 #include "core/session.h"
 #include "platform/desktop.h"
 #include "platform/errors.h"
+#include "platform/folderLock.h"
 #include "platform/pictureFile.h"
 #include "platform/textFile.h"
 #include "platform/wholeFile.h"
@@ -37,7 +38,8 @@ void attempt(const std::function<void()>& step)
 {
     ignoringErrors({step}, [] {
         session.descriptionWhole = false;
-        tellProblem();
+        if (!alreadyTold(descriptionPath()))
+            tellProblem();
     });
 }
 
@@ -130,6 +132,10 @@ void readDbInfo()
         readField(reader, f, listLength);
     attempt([&] { session.databaseStatus = reader.next(); });
     applyStatus();
+    if (session.descriptionWhole)
+        session.toldStates.remove(descriptionPath());
+    else
+        rememberTold(descriptionPath());
 
     if (background != session.backgroundPicture) {
         session.backgroundPicture = background;
@@ -143,6 +149,7 @@ void writeDbInfo()
     withErrorBox([] {
         const QString path = descriptionPath();
         const QByteArray bytes = descriptionBytes();
+        const FolderLock lock(session.dbPath);
         const FileState known = knownState(path);
         const FileState now = stateToReplace(path);
         const bool isThere = now.error == 0;

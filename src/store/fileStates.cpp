@@ -25,6 +25,14 @@ QByteArray readAndRemember(const QString& path, qint64 limit)
     return state.bytes;
 }
 
+bool alreadyTold(const QString& path)
+{
+    const auto told = session.toldStates.constFind(path);
+    return session.inRefresh && told != session.toldStates.constEnd() && *told == knownState(path);
+}
+
+void rememberTold(const QString& path) { session.toldStates.insert(path, knownState(path)); }
+
 FileState knownState(const QString& path) { return session.fileStates.value(path); }
 
 void forgetStates(QLatin1StringView ending)

@@ -8,6 +8,12 @@
 /// Reads the file and remembers its bytes, or the error, as its last known state. Raises as readWholeFile().
 QByteArray readAndRemember(const QString& path, qint64 limit);
 
+/// True when no box is due: a tick of the refresh has found the file in the state that a box has reported.
+bool alreadyTold(const QString& path);
+
+/// Remembers that a box has reported the file in the state in which it was last read.
+void rememberTold(const QString& path);
+
 /// The state when the file was last read or written; missing when it never was.
 FileState knownState(const QString& path);
 

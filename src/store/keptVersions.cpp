@@ -3,6 +3,7 @@
 #include "core/session.h"
 #include "platform/desktop.h"
 #include "platform/errors.h"
+#include "platform/folderLock.h"
 #include "platform/wholeFile.h"
 #include "store/paths.h"
 
@@ -15,7 +16,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int momentTries = 10;
+constexpr int momentTries = 20;
 
 QString keptFolder() { return joinPath(session.dbPath, u".kept"_s); }
 
@@ -133,6 +134,7 @@ void keepVersions(const QStringList& paths)
 
 void moveToKept(const QStringList& paths)
 {
+    const FolderLock lock(session.dbPath);
     QFileInfoList files;
     for (const QString& path : paths) {
         if (const QFileInfo file(path); file.exists())

@@ -1,20 +1,66 @@
 #include "store/settings.h"
 
 #include "platform/desktop.h"
-#include "platform/profileFile.h"
 #include "store/paths.h"
+
+#include <QFileInfo>
 
 using namespace Qt::StringLiterals;
 
-QString settingsFile() { return joinPath(desktop.files.programFolder(), u"tallymoor.ini"_s); }
+namespace {
+
+const QString fileName = u"tallymoor.ini"_s;
+
+QString ownFile() { return joinPath(desktop.files.ownFolder(), fileName); }
+
+/// A file that isn't there can be written when it can be made.
+bool canBeWritten(const QString& file)
+{
+    const QFileInfo info(file);
+    return info.exists() ? info.isWritable() : QFileInfo(info.path()).isWritable();
+}
+
+bool isAsRead(const ProfileLine& line)
+{
+    const QString none = u"\n"_s; // no value has a line break
+    return readSetting(settingsFile(), line.section, line.key, none) == line.value;
+}
+
+} // namespace
+
+QString settingsFile() { return joinPath(desktop.files.programFolder(), fileName); }
+
+SettingsPlace settingsPlace()
+{
+    if (canBeWritten(settingsFile()))
+        return SettingsPlace::programFolder;
+    return canBeWritten(ownFile()) ? SettingsPlace::usersOwn : SettingsPlace::nowhere;
+}
 
 QString readSetting(const QString& file, const QString& section, const QString& key, const QString& absent)
 {
-    return readProfile(section, key, absent, file);
+    const QString installed = readProfile(section, key, absent, file);
+    const bool overlaid = file == settingsFile() && !canBeWritten(file);
+    return overlaid ? readProfile(section, key, installed, ownFile()) : installed;
 }
 
 bool writeSetting(const QString& file, const QString& section, const QString& key, const QString& value)
 {
-    writeProfile({{section, key, value}}, file);
+    if (file == settingsFile())
+        writeInstalledSettings({{section, key, value}});
+    else
+        writeProfile({{section, key, value}}, file);
     return true;
+}
+
+void writeInstalledSettings(const QList<ProfileLine>& lines)
+{
+    if (settingsPlace() == SettingsPlace::programFolder) {
+        writeProfile(lines, settingsFile());
+        return;
+    }
+    QList<ProfileLine> changes = lines;
+    changes.removeIf(isAsRead);
+    if (!changes.isEmpty())
+        writeProfile(changes, ownFile());
 }

@@ -59,16 +59,42 @@ TEST_F(Refresh, OnReadsTheFolderAtOnceAndEveryTwoSeconds)
     EXPECT_FALSE(refreshTimer().isActive());
 }
 
-TEST_F(Refresh, ACardFileThatVanishesInTheMiddleIsToldOnceForEachReading)
+TEST_F(Refresh, AFileIsToldOfOnceForEachStateThatItIsIn)
 {
     turnOn();
     recorded.messages.clear();
     QFile::remove(file(2, ".bmp"));
     ASSERT_TRUE(ticks(3));
-    EXPECT_EQ(recorded.messages.size(), timeouts);
-    EXPECT_EQ(QSet(recorded.messages.begin(), recorded.messages.end()).values(),
-              QStringList(u"Error|File not found"_s));
+    const QString missing = u"Error|File not found"_s;
+    EXPECT_THAT(recorded.messages, ElementsAre(missing));
+    putFile(file(2, ".bmp"), "no picture");
+    ASSERT_TRUE(ticks(3));
+    EXPECT_THAT(recorded.messages, ElementsAre(missing, u"Error|Invalid picture"_s));
+    putFile(session.dbPath + u"/db-info.tdb"_s, " 1 \r\n 7 \r\n");
+    ASSERT_TRUE(ticks(3));
+    const qsizetype failedSteps = recorded.messages.size() - 2;
+    EXPECT_GT(failedSteps, 1);
+    ASSERT_TRUE(ticks(2));
+    EXPECT_EQ(recorded.messages.size(), failedSteps + 2);
     EXPECT_TRUE(session.window.refreshCheck.pressed);
+    setRefresh(u"On"_s); // asked for by the pupil
+    EXPECT_EQ(recorded.messages.size(), 2 * failedSteps + 3);
+}
+
+TEST_F(Refresh, TooManyRecordsAndOddEntriesAreToldOnceOrNotAtAll)
+{
+    turnOn();
+    recorded.messages.clear();
+    ASSERT_TRUE(QFile::link(u"LOOPLOOP.tcd"_s, session.dbPath + u"/LOOPLOOP.tcd"_s));
+    ASSERT_TRUE(QDir().mkdir(session.dbPath + u"/FOLDERED.tcd"_s));
+    ASSERT_TRUE(ticks(2));
+    EXPECT_TRUE(recorded.messages.isEmpty());
+    EXPECT_EQ(session.numCards, 3);
+    for (int i = 0; i < 100; ++i)
+        putFile(session.dbPath + u"/CARD%1.tcd"_s.arg(i, 4, 10, '0'_L1), "");
+    ASSERT_TRUE(QTest::qWaitFor([] { return !session.window.refreshCheck.pressed; }));
+    EXPECT_THAT(recorded.messages, ElementsAre(u"Error|Subscript out of range"_s));
+    EXPECT_EQ(session.numCards, 3);
 }
 
 TEST_F(Refresh, AFolderThatIsGoneIsToldOnceAndLosesNoCard)

@@ -14,7 +14,7 @@ int main(int argc, char** argv)
     qputenv("QT_QPA_PLATFORM", "offscreen");
     testing::InitGoogleMock(&argc, argv);
     if (argc > 1 && std::strcmp(argv[1], "--long") == 0)
-        effort = {1000, 300, 60, 1};
+        effort = {1000, 300, 60, 300, 1};
     const QGuiApplication application(argc, argv);
     return RUN_ALL_TESTS();
 }

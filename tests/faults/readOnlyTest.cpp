@@ -3,6 +3,8 @@
 #include "faults/children.h"
 #include "faults/writers.h"
 #include "platform/pictureFile.h"
+#include "store/options.h"
+#include "store/settings.h"
 #include "support/files.h"
 #include "support/smallDisk.h"
 
@@ -41,6 +43,37 @@ protected:
 
     const QString folder = inTestFolder(u"folder"_s);
 };
+
+TEST_F(ReadOnly, SettingsOfAnInstalledProgramAreOverlaidByTheUsersOwn)
+{
+    putFile(folder + u"/tallymoor.ini"_s, "[Keys]\r\nValue=K\r\n[Clue]\r\nStatus=1\r\n");
+    setMode(folder, 0555);
+    setMode(folder + u"/tallymoor.ini"_s, 0644);
+    const QString home = inTestFolder(u"home"_s);
+    QDir().mkdir(home);
+    setMode(home, 0777);
+    desktop.files.ownFolder = [home] { return home; };
+    messagesWithoutRights([&] {
+        EXPECT_EQ(settingsPlace(), SettingsPlace::usersOwn);
+        writeSettings({{option::optionsKey, u"T"_s}, {option::clues, u"1"_s}});
+        write(option::lastDatabase, u"/school/pets"_s);
+        EXPECT_EQ(read(option::optionsKey), u"T"_s);
+        EXPECT_EQ(read(option::lastDatabase), u"/school/pets"_s);
+        EXPECT_EQ(bytesOf(home + u"/tallymoor.ini"_s),
+                  "[Keys]\r\nValue=T\r\n[Last DB]\r\nPath=/school/pets\r\n");
+        desktop.files.ownFolder = [this] { return folder; };
+        EXPECT_EQ(settingsPlace(), SettingsPlace::nowhere);
+        write(option::optionsKey, u"X"_s);
+        EXPECT_EQ(read(option::optionsKey), u"K"_s);
+    });
+    putFile(folder + u"/tallymoor.ini"_s, "[Clue]\r\nStatus=0\r\n"); // the administrator
+    messagesWithoutRights([] { EXPECT_EQ(read(option::clues), u"0"_s); });
+    setMode(folder + u"/tallymoor.ini"_s, 0666);
+    messagesWithoutRights([] {
+        EXPECT_EQ(settingsPlace(), SettingsPlace::programFolder);
+        EXPECT_EQ(read(option::optionsKey), u"K"_s);
+    });
+}
 
 TEST_F(ReadOnly, RightsDecideBetweenTheOldFileAndTheNew)
 {

@@ -5,10 +5,14 @@
 
 #include <QApplication>
 #include <QClipboard>
+#include <QDir>
+#include <QFileDialog>
+#include <QListView>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTest>
 #include <QTimer>
+#include <QToolButton>
 
 using namespace Qt::StringLiterals;
 
@@ -49,6 +53,35 @@ TEST_F(RealDesktop, MessagesShowTheirSignsAsTheyAre)
         QTest::keyClick(&box, Qt::Key_Return);
     });
     desktop.boxes.showMessage(MessageIcon::stop, u"Error"_s, u"<b>5 < 6</b>"_s);
+}
+
+TEST_F(RealDesktop, ChoosersChangeNothing)
+{
+    const QString pets = testFolder() + u"Pets"_s;
+    ASSERT_TRUE(QDir().mkdir(pets));
+    const auto tryToDelete = [&pets] {
+        auto* chooser = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+        ASSERT_TRUE(chooser);
+        EXPECT_TRUE(chooser->testOption(QFileDialog::ReadOnly));
+        chooser->selectFile(pets);
+        auto* list = chooser->findChild<QListView*>(u"listView"_s);
+        QTest::keyClick(list, Qt::Key_Delete);
+        QTest::keyClick(list, Qt::Key_F2);
+        EXPECT_FALSE(list->indexWidget(list->currentIndex()));
+        EXPECT_EQ(list->contextMenuPolicy(), Qt::NoContextMenu);
+        EXPECT_FALSE(chooser->findChild<QToolButton*>(u"newFolderButton"_s)->isVisible());
+        chooser->reject();
+    };
+    const std::function<void()> choosers[] = {
+        [] { desktop.files.chooseFolder(u"Choose"_s, testFolder()); },
+        [] { desktop.files.chooseFile(u"Choose"_s, testFolder(), u"All (*)"_s); },
+        [] { desktop.files.choosePicture(u"Choose"_s, testFolder(), u"All (*)"_s); },
+    };
+    for (const auto& choose : choosers) {
+        QTimer::singleShot(0, qApp, tryToDelete);
+        choose();
+    }
+    EXPECT_TRUE(QDir(pets).exists());
 }
 
 TEST_F(RealDesktop, QuestionsTakeYesByReturnAndNoByEscape)

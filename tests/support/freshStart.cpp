@@ -59,6 +59,10 @@ Desktop recordingDesktop()
     d.files.programFolder = [] { return testFolder().chopped(1); };
     d.files.documentsFolder = []() -> QString { return testFolder() + u"Documents"_s; };
     d.files.desktopFolder = [] { return testFolder() + u"Desktop"_s; };
+    d.files.ownFolder = [] {
+        QDir().mkpath(testFolder() + u"Own"_s);
+        return testFolder() + u"Own"_s;
+    };
     d.files.volumes = [] { return QList<Volume>(); };
     d.sound.beep = [] { ++recorded.beeps; };
     d.sound.play = [](const QString& path) { recorded.played.append(path); };
