@@ -6,6 +6,7 @@
 #include "store/cardFiles.h"
 
 #include <QAccessibleWidget>
+#include <QGuiApplication>
 #include <QHash>
 #include <QPointer>
 #include <QWidget>
@@ -92,7 +93,8 @@ QStringList actionsOf(int item)
 
 void act(int item, const QString& action)
 {
-    if (!isShown(item) || !actionsOf(item).contains(action))
+    const bool outOfReach = QGuiApplication::modalWindow() != nullptr; // as for a mouse
+    if (outOfReach || !isShown(item) || !actionsOf(item).contains(action))
         return;
     if (action == closeAction)
         closeBin();

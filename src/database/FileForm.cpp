@@ -9,6 +9,7 @@
 
 #include <QApplication>
 #include <QBoxLayout>
+#include <QDir>
 #include <QFileInfo>
 #include <QGridLayout>
 #include <QKeyEvent>
@@ -201,6 +202,7 @@ void FileForm::choose(const FileChoice& choice, const QString& startFolder)
     const QSize pictureSize = QSize(iconSide, iconSide) * desktop.screen.pixelRatio();
     walk.start(startFolder, choice.pattern, choice.databases, pictureSize);
     showPlace();
+    otherStarts.clear();
     starting = true;
 }
 
@@ -264,12 +266,29 @@ void FileForm::placeRefused(int error)
 {
     showWaiting();
     if (starting) {
-        showErrorBox(RuntimeError(error).description());
-        leave(u"Cancel"_s);
+        startElsewhere(error);
     } else if (error == deviceUnavailable) {
         desktop.boxes.showMessage(MessageIcon::exclamation, u"Error"_s,
                                   u"Make sure the disc is in the drive!"_s);
     }
+}
+
+/// The folder to start in can't be read: shows the error, then goes to the user's documents, and without
+/// those to the home folder. Drives and "Browse Network" stay within reach in any case.
+void FileForm::startElsewhere(int error)
+{
+    if (otherStarts.isEmpty()) {
+        const QString documents = desktop.files.documentsFolder();
+        QDir().mkpath(documents);
+        otherStarts = {documents, QDir::homePath(), QDir::rootPath()};
+        showErrorBox(RuntimeError(error).description());
+    }
+    WalkItem next;
+    next.tag = u"Dir"_s;
+    next.path = otherStarts.takeFirst();
+    walk.enter(next);
+    starting = !otherStarts.isEmpty();
+    showWaiting();
 }
 
 /// A database or file becomes the chosen one, which is highlighted and which OK opens. A folder or drive

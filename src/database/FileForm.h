@@ -27,7 +27,8 @@ public:
     void load();
 
     /// Prepares the form for choosing, starting in `startFolder`. Then call ask(), which returns "OK", "DBOK"
-    /// or "Cancel". For a start folder that can't be read the error is shown and the answer is "Cancel".
+    /// or "Cancel". Where the start folder can't be read the error is shown, and the
+    /// dialog stands at the user's documents.
     void choose(const FileChoice& choice, const QString& startFolder);
 
     /// Enables the ways out of the working folder as session.options.upLevelStatus says.
@@ -64,6 +65,7 @@ private:
     void showSlot(int slot);
     void showWaiting();
     void placeRefused(int error);
+    void startElsewhere(int error);
 
     void select(int slot);
     void openSlot(int slot);
@@ -80,6 +82,7 @@ private:
     QLabel* waitLabel = nullptr;
     bool starting = false;
     QString chosenPath; // of the highlighted item, which OK opens; empty without one
-    QString wishedPath; // a folder clicked before it was known whether it is a database
+    QStringList otherStarts; // to be tried while the folder to start in can't be read
+    QString wishedPath;      // a folder clicked before it was known whether it is a database
     Wish wish = Wish::none;
 };

@@ -21,14 +21,21 @@ bool meansDocuments(const QString& workingFolder)
     return workingFolder.isEmpty() || workingFolder == documentsWord;
 }
 
+/// The settings file would lose them, and the last database couldn't be found again.
+QString withoutBlanksAtEnd(QString name)
+{
+    while (!name.isEmpty() && name.back().isSpace())
+        name.chop(1);
+    return name;
+}
+
 bool folderCanBear(const QString& name)
 {
     const auto impossible = [](QChar letter) {
         return letter.category() == QChar::Other_Control || u"\\/:*?\"<>|"_s.contains(letter);
     };
-    const bool dotsAndBlanks =
-        std::all_of(name.begin(), name.end(), [](QChar letter) { return letter == u'.' || letter == u' '; });
-    return !dotsAndBlanks && std::none_of(name.begin(), name.end(), impossible);
+    const bool isHidden = name.startsWith(u'.'); // the file dialog would never show it
+    return !name.isEmpty() && !isHidden && std::none_of(name.begin(), name.end(), impossible);
 }
 
 void emptySession()
@@ -61,8 +68,9 @@ QString customDirectoryText(const QString& workingFolder)
     return place + u"\nYou can change the path in 'Teacher Options'"_s;
 }
 
-QString newDatabasePath(const QString& folder, const QString& name)
+QString newDatabasePath(const QString& folder, const QString& typed)
 {
+    const QString name = withoutBlanksAtEnd(typed);
     if (!folderCanBear(name))
         throw RuntimeError(pathAccessError);
     return cleanPath(joinPath(folder, name));

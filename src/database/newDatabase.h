@@ -10,9 +10,10 @@ QString customDirectory(const QString& workingFolder);
 /// The text about that folder for the pupil.
 QString customDirectoryText(const QString& workingFolder);
 
-/// The clean path of a database of that name in the folder. Raises 75 for a name that a folder can't have on
-/// every system, since folders are shared between systems.
-QString newDatabasePath(const QString& folder, const QString& name);
+/// The clean path of a database of that name, without the blanks at its end, in the folder. Raises 75 for a
+/// name that a folder can't have on every system, since folders are shared between systems, and for one that
+/// begins with a dot.
+QString newDatabasePath(const QString& folder, const QString& typed);
 
 /// The warning about a folder that exists already.
 QString folderExistsText(const QString& path);

@@ -24,11 +24,10 @@ constexpr int partsOfRow = 6; // the last part is a gap
 constexpr int nameWidth = 110;
 constexpr int columnGap = 16;
 
+/// One press is one field: a held button that went on would take the work of many.
 QPushButton* stepButton(const char* name, const QString& icon, const QString& meaning)
 {
-    auto* button = named(iconButton(icon, meaning), name);
-    button->setAutoRepeat(true);
-    return button;
+    return named(iconButton(icon, meaning), name);
 }
 
 } // namespace

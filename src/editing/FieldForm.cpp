@@ -4,6 +4,7 @@
 #include "controls/dialogParts.h"
 #include "controls/dropDown.h"
 #include "controls/selectOnFocus.h"
+#include "controls/typographicQuotes.h"
 
 #include <QBoxLayout>
 #include <QCheckBox>
@@ -95,6 +96,7 @@ QLayout* FieldForm::answerList()
     for (int item = 1; item <= lastAnswer; ++item) {
         possAnswer[item] = element(new QLineEdit, "possAnswer", item);
         possAnswer[item]->setAccessibleName(u"Answer %1"_s.arg(item));
+        takeTypographicQuotes(possAnswer[item]);
         possAnswer[item]->installEventFilter(this);
         rows->addWidget(new QLabel(QString::number(item)), item, 0);
         rows->addWidget(possAnswer[item], item, 1);
@@ -123,6 +125,7 @@ void FieldForm::connectControls()
 {
     giveHint(*BtnClear, u"Empty the name"_s);
     selectOnFocus(fieldNameBox);
+    takeTypographicQuotes(fieldNameBox);
     onClick(BtnClear, [this] {
         fieldNameBox->clear();
         fieldNameBox->setFocus();

@@ -1,7 +1,10 @@
 #include "editing/design.h"
 
+#include "core/mainView.h"
 #include "core/session.h"
 #include "store/options.h"
+
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -33,6 +36,8 @@ void acceptDesign()
 {
     session.databaseStatus = session.design.ChkRD ? u"RO"_s : u"RW"_s;
     write(option::databaseStatus, session.databaseStatus);
+    if (session.design.ChkRD && std::exchange(session.board.BigBin.visible, false))
+        mainView.redrawBoard();
 }
 
 bool reminderWanted() { return read(option::remindOfAdding) == "1"_L1; }

@@ -5,6 +5,7 @@
 #include "controls/dialogParts.h"
 #include "controls/fittedLabel.h"
 #include "controls/pucTextTip.h"
+#include "controls/typographicQuotes.h"
 #include "core/mainView.h"
 #include "editing/cardEntry.h"
 #include "platform/desktop.h"
@@ -142,6 +143,7 @@ void editCard::connectControls()
 {
     for (int f = 1; f <= lastField; ++f) {
         connect(DataBox[f], &QLineEdit::textChanged, this, [this, f] { guarded([&] { filterValue(f); }); });
+        takeTypographicQuotes(DataBox[f]);
         DataBox[f]->installEventFilter(this);
         onClick(pullDownBut[f], [this, f] { toggleAnswers(f); });
     }

@@ -79,6 +79,18 @@ QString decodeText(const QByteArray& bytes)
     return text;
 }
 
+QString withTypographicQuotes(QString text)
+{
+    constexpr QChar opening(0x201C);
+    constexpr QChar closing(0x201D);
+    constexpr QStringView before = u"([{<-/=\u2013\u2014\u2018\u201C";
+    for (qsizetype at = text.indexOf(u'"'); at >= 0; at = text.indexOf(u'"', at)) {
+        const bool opens = at == 0 || text[at - 1].isSpace() || before.contains(text[at - 1]);
+        text[at] = opens ? opening : closing;
+    }
+    return text;
+}
+
 ItemReader::ItemReader(const QString& itemText)
     : text(itemText)
 {

@@ -12,6 +12,10 @@ QByteArray encodeText(const QString& text);
 /// Bytes that are valid UTF-8 with a character beyond ASCII are read as UTF-8, all others as code page 1252.
 QString decodeText(const QByteArray& bytes);
 
+/// The text with a typographic pair in place of double quotes, which would end an item in a file: an opening
+/// one at the beginning and after a blank, a bracket or a dash, else a closing one.
+QString withTypographicQuotes(QString text);
+
 /// Reads items that end at a comma or a line end. Blanks before an item are skipped. An item that begins with
 /// a double quote ends at the next double quote, commas and line ends included; text after that is a further
 /// item.

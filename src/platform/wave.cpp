@@ -2,6 +2,7 @@
 
 #include "platform/errors.h"
 
+#include <QBuffer>
 #include <QtEndian>
 
 #include <algorithm>
@@ -18,7 +19,10 @@ constexpr quint16 extensible = 0xFFFE;
 constexpr char pcmSubformat[] = "\x01\x00\x00\x00\x00\x00\x10\x00\x80\x00\x00\xaa\x00\x38\x9b\x71";
 constexpr int subformatSize = 16;
 constexpr int mostChannels = 8;
-constexpr quint32 highestRate = 192'000;
+constexpr quint32 lowestRate = 1'000; // Qt 6.4 divides by zero at the lowest ones
+constexpr quint32 highestRate = 384'000;
+constexpr int mostChunks = 1000; // a large file of tiny ones would hold the program
+constexpr qint64 longestFormat = 64;
 
 [[noreturn]] void refuse() { throw RuntimeError(deviceError); }
 
@@ -36,25 +40,38 @@ void append(QByteArray& bytes, Number value)
     bytes.append(raw, sizeof raw);
 }
 
+QByteArray bytesAt(QIODevice& file, qint64 at, qint64 length)
+{
+    return file.seek(at) ? file.read(length) : QByteArray();
+}
+
+struct Chunk {
+    qint64 begin = 0; // of its content
+    qint64 length = -1;
+};
+
 /// The start of the chunk that follows the one ending at `end`. Chunks start at even offsets, but some
 /// programs omit the padding byte.
-qsizetype nextChunk(const QByteArray& file, qsizetype end)
+qint64 nextChunk(QIODevice& file, qint64 end)
 {
     if (end % 2 == 0)
         return end;
-    const QByteArray unpadded = file.mid(end, 4);
+    const QByteArray unpadded = bytesAt(file, end, 4);
     return unpadded == "data" || unpadded == "fmt " ? end : end + 1;
 }
 
-/// The content of the first chunk of that name, truncated at the end of the file; null when there is none.
-QByteArray chunk(const QByteArray& file, const char* name)
+/// The first chunk of that name, truncated at the end of the file; of length -1 when there is none.
+Chunk findChunk(QIODevice& file, const char* name)
 {
-    qsizetype at = headSize;
-    while (at + chunkHead <= file.size()) {
-        const qsizetype begin = at + chunkHead;
-        const qsizetype end = std::min(begin + qsizetype(numberAt<quint32>(file, at + 4)), file.size());
-        if (file.mid(at, 4) == name)
-            return file.mid(begin, end - begin);
+    qint64 at = headSize;
+    for (int number = 0; number < mostChunks; ++number) {
+        const QByteArray head = bytesAt(file, at, chunkHead);
+        if (head.size() < chunkHead)
+            return {};
+        const qint64 begin = at + chunkHead;
+        const qint64 end = std::min(begin + qint64(numberAt<quint32>(head, 4)), file.size());
+        if (head.startsWith(name))
+            return {begin, end - begin};
         at = nextChunk(file, end);
     }
     return {};
@@ -70,24 +87,36 @@ bool isPcm(const QByteArray& format)
 
 } // namespace
 
-Wave readWave(const QByteArray& file)
+WaveFile inspectWave(QIODevice& file)
 {
-    if (!file.startsWith("RIFF") || file.mid(8, 4) != "WAVE")
+    const QByteArray head = bytesAt(file, 0, headSize);
+    if (!head.startsWith("RIFF") || head.mid(8) != "WAVE")
         refuse();
-    const QByteArray format = chunk(file, "fmt ");
-    const QByteArray data = chunk(file, "data");
-    if (format.size() < formatSize || data.isNull() || !isPcm(format))
+    const Chunk formatChunk = findChunk(file, "fmt ");
+    const Chunk data = findChunk(file, "data");
+    const QByteArray format = bytesAt(file, formatChunk.begin, std::min(formatChunk.length, longestFormat));
+    if (format.size() < formatSize || data.length < 0 || !isPcm(format))
         refuse();
 
     const auto channels = numberAt<quint16>(format, 2);
     const auto rate = numberAt<quint32>(format, 4);
     const auto bits = numberAt<quint16>(format, 14);
-    if (channels < 1 || channels > mostChannels || rate < 1 || rate > highestRate ||
+    if (channels < 1 || channels > mostChannels || rate < lowestRate || rate > highestRate ||
         (bits != 8 && bits != 16))
         refuse();
 
-    Wave wave{int(rate), channels, bits, data};
-    wave.samples.chop(data.size() % wave.frameSize());
+    const Wave wave{int(rate), channels, bits, {}};
+    return {wave, data.begin, data.length - data.length % wave.frameSize()};
+}
+
+Wave readWave(const QByteArray& file)
+{
+    QBuffer device;
+    device.setData(file);
+    device.open(QIODevice::ReadOnly);
+    const WaveFile found = inspectWave(device);
+    Wave wave = found.format;
+    wave.samples = file.mid(found.begin, found.length);
     return wave;
 }
 

@@ -4,8 +4,10 @@
 
 #include <QAudioDevice>
 #include <QAudioSink>
+#include <QBuffer>
 #include <QElapsedTimer>
 #include <QFile>
+#include <QFileInfo>
 #include <QMediaDevices>
 #include <QThread>
 
@@ -26,6 +28,35 @@ QAudioFormat formatOf(const Wave& wave)
     return format;
 }
 
+/// The samples of a wave file as a device of their own.
+class FileSamples : public QIODevice {
+public:
+    FileSamples(std::unique_ptr<QFile> waveFile, const WaveFile& place)
+        : file(std::move(waveFile))
+        , left(place.length)
+    {
+        file->seek(place.begin);
+        open(QIODevice::ReadOnly | QIODevice::Unbuffered);
+    }
+
+    bool isSequential() const override { return true; }
+    qint64 bytesAvailable() const override { return left; }
+    bool atEnd() const override { return left == 0; }
+
+protected:
+    qint64 readData(char* bytes, qint64 most) override
+    {
+        const qint64 count = file->read(bytes, std::min(most, left));
+        left = count > 0 ? left - count : 0; // a file that was cut meanwhile, or whose share is gone, ends
+        return count;
+    }
+    qint64 writeData(const char*, qint64) override { return -1; }
+
+private:
+    std::unique_ptr<QFile> file;
+    qint64 left;
+};
+
 } // namespace
 
 WavePlayer::WavePlayer()
@@ -41,17 +72,33 @@ WavePlayer::~WavePlayer() { stop(); }
 
 bool WavePlayer::play(const Wave& wave)
 {
+    auto buffer = std::make_unique<QBuffer>();
+    buffer->setData(wave.samples);
+    buffer->open(QIODevice::ReadOnly);
+    return start(wave, std::move(buffer));
+}
+
+bool WavePlayer::playFile(const QString& path)
+{
+    auto file = std::make_unique<QFile>(path);
+    if (!QFileInfo(path).isFile() || !file->open(QIODevice::ReadOnly))
+        throw RuntimeError(fileNotFound);
+    const WaveFile place = inspectWave(*file);
+    return start(place.format, std::make_unique<FileSamples>(std::move(file), place));
+}
+
+bool WavePlayer::start(const Wave& wave, std::unique_ptr<QIODevice> source)
+{
     stop();
     const QAudioDevice device = QMediaDevices::defaultAudioOutput();
     if (device.isNull())
         return false;
     const QAudioFormat format = formatOf(wave);
-    samples.setData(wave.samples);
-    samples.open(QIODevice::ReadOnly);
+    samples = std::move(source);
     sink = std::make_unique<QAudioSink>(device, format);
     sink->setBufferSize(format.bytesForDuration(buffered));
     connect(sink.get(), &QAudioSink::stateChanged, this, &WavePlayer::followState);
-    sink->start(&samples);
+    sink->start(samples.get());
     if (sink->error() == QAudio::NoError)
         return true;
     stop();
@@ -61,7 +108,7 @@ bool WavePlayer::play(const Wave& wave)
 /// "Idle" means the end only when no sample is left; otherwise a read came too late.
 void WavePlayer::followState()
 {
-    if (sink->state() == QAudio::IdleState && samples.atEnd())
+    if (sink->state() == QAudio::IdleState && samples->atEnd())
         ending.start(int(sink->format().durationForBytes(int(sink->bufferSize())) / 1000) +
                      afterTheLastSample);
     else if (sink->state() == QAudio::StoppedState && sink->error() != QAudio::NoError)
@@ -97,7 +144,7 @@ void WavePlayer::stop()
         sink.reset();
         noteSoundStopped();
     }
-    samples.close();
+    samples.reset();
 }
 
 WavePlayer& wavePlayer()
@@ -110,11 +157,7 @@ WavePlayer& wavePlayer()
 void playWaveFile(const QString& path)
 {
     ignoringErrors({[&] {
-        QFile file(path);
-        if (!file.open(QIODevice::ReadOnly))
-            return;
-        const Wave wave = readWave(file.readAll());
-        wavePlayer().play(wave);
+        wavePlayer().playFile(path);
     }});
 }
 

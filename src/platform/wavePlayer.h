@@ -6,13 +6,13 @@
 
 #include "platform/wave.h"
 
-#include <QBuffer>
 #include <QObject>
 #include <QTimer>
 
 #include <memory>
 
 class QAudioSink;
+class QIODevice;
 
 /// Plays one sound at a time.
 class WavePlayer : public QObject {
@@ -23,6 +23,9 @@ public:
 
     /// Starts the sound, stopping one that still plays. False when there is no output device.
     bool play(const Wave& wave);
+    /// The same for a wave file, which is read while it plays. Raises 57 when it is none, 53 when it can't be
+    /// opened.
+    bool playFile(const QString& path);
     void pause();
     void resume();
     void stop();
@@ -33,9 +36,10 @@ Q_SIGNALS:
     void finished();
 
 private:
+    bool start(const Wave& format, std::unique_ptr<QIODevice> source);
     void followState();
 
-    QBuffer samples;
+    std::unique_ptr<QIODevice> samples;
     QTimer ending; // from the last sample passed on to the last one heard
     int endingLeft = -1;
     std::unique_ptr<QAudioSink> sink;

@@ -73,6 +73,7 @@ QString questionsForPrograms() { return QFileInfo::exists(copyPath()) ? copyPath
 
 void deleteAnswers()
 {
-    if (!session.dbPath.isEmpty())
+    const bool isDatabase = QFileInfo::exists(filePathIn(session.dbPath, descriptionName));
+    if (!session.dbPath.isEmpty() && isDatabase)
         QFile::remove(filePathIn(session.dbPath, u"Answers.txt"_s));
 }

@@ -22,5 +22,6 @@ bool saveQuestions(const QString& notes);
 /// The path of the copy with the heading; empty while there is none.
 QString questionsForPrograms();
 
-/// Deletes the answers to the open database's questions. A failure is not reported.
+/// Deletes the answers to the open database's questions, and nothing in a folder that is no database. A
+/// failure is not reported.
 void deleteAnswers();

@@ -44,7 +44,7 @@ bool liesOnBin(int card)
     const CardImage& image = session.box[card];
     const double dx = std::abs((image.left + image.width / 2) - (bin.left + bin.width / 2));
     const double dy = std::abs((image.top + image.height / 2) - (bin.top + bin.height / 2));
-    return bin.visible && dx < bin.width / 2 && dy < bin.height / 2;
+    return bin.visible && session.databaseStatus != "RO"_L1 && dx < bin.width / 2 && dy < bin.height / 2;
 }
 
 void deleteCard(const QString& cardId, const QString& recordName)

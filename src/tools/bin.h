@@ -6,7 +6,7 @@
 /// Switches to the cards and shows the bin behind them, entirely on the board.
 void showBin();
 
-/// Whether the bin is shown and contains the card's centre.
+/// Whether the bin is shown and contains the card's centre. Nothing lies on the bin of a read-only database.
 bool liesOnBin(int card);
 
 /// Removes the files of the card with that identity and loads the folder again; then scatters the remaining

@@ -3,6 +3,7 @@
 #include "choices/fieldChoice.h"
 #include "controls/dialogParts.h"
 #include "controls/dropDown.h"
+#include "controls/typographicQuotes.h"
 #include "core/session.h"
 #include "platform/desktop.h"
 #include "platform/errors.h"
@@ -89,6 +90,7 @@ void findForm::makeRow(int row)
             [this, row] { guarded([=, this] { valueTyped(row); }); });
     onClick(made.pullDownBut, [this, row] { toggleAnswers(row); });
     made.compBox->installEventFilter(this);
+    takeTypographicQuotes(made.valBox); // as the cards have them
     made.valBox->installEventFilter(this);
 }
 

@@ -140,13 +140,10 @@ void Form1::fillBand()
 
 void Form1::connectControls()
 {
-    for (QPushButton* button : {btnCards, btnTable})
-        connect(button, &QPushButton::clicked, this, [this, button] {
-            guarded([this, button] { changeMode(*button); });
-            showControls(); // resets the button if the mode couldn't be changed
-        });
-    onClick(refreshCheck, [this] { mainView.setRefresh(refreshCheck->isChecked() ? u"On"_s : u"Off"_s); });
-    connect(refreshCheck, &QCheckBox::clicked, this, &Form1::showControls); // also after an error
+    whenToggled(btnCards, session.window.btnCards, [this] { changeMode(*btnCards); });
+    whenToggled(btnTable, session.window.btnTable, [this] { changeMode(*btnTable); });
+    whenToggled(refreshCheck, session.window.refreshCheck,
+                [this] { mainView.setRefresh(refreshCheck->isChecked() ? u"On"_s : u"Off"_s); });
     onClick(cmdQuestion, [] { mainView.showClues(); });
     onClickLater(cmdCopyGraph, [] { // by then the graph, or the program, may have gone
         if (isLoaded<Form1>() && session.window.MSChart.visible)
@@ -156,6 +153,20 @@ void Form1::connectControls()
     for (const OnceTimer& once : onceTimers())
         addOnceTimer(once, this);
     qApp->installEventFilter(this); // sees every key before the focused control
+}
+
+/// Runs the action of a button when it leaves the state that it shows: at a click, and when assistive
+/// technology toggles it, which gives no click. Afterwards the button shows its state again, also after an
+/// error.
+void Form1::whenToggled(QAbstractButton* button, const ControlState& state,
+                        const std::function<void()>& action)
+{
+    connect(button, &QAbstractButton::toggled, this, [this, &state, action](bool checked) {
+        if (checked == state.pressed)
+            return;
+        guarded(action);
+        showControls();
+    });
 }
 
 /// Changes the mode and reloads the folder, after a click on a mode button.

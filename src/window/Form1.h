@@ -9,9 +9,11 @@
 #include <QTimer>
 #include <QWidget>
 
+#include <functional>
+
+struct ControlState;
 class BoardWidget;
 class ChartView;
-
 class TablePanel;
 
 class Form1 : public QWidget {
@@ -48,6 +50,7 @@ protected:
 private:
     void fillBand();
     void connectControls();
+    void whenToggled(QAbstractButton* button, const ControlState& state, const std::function<void()>& action);
     void changeMode(const QPushButton& button);
     bool closesMenu(const QWidget& pressed) const;
     void showChart();

@@ -7,6 +7,7 @@
 
 #include <QAccessible>
 #include <QApplication>
+#include <QDialog>
 
 using namespace Qt::StringLiterals;
 
@@ -117,6 +118,14 @@ TEST_F(BoardForAssistiveTechnology, DoesWithoutAMouseWhatAMouseDoes)
     EXPECT_EQ(session.board.SelectBox.left, session.box[1].left - 2);
     EXPECT_EQ(session.cardStack.fromBelow().back(), 1);
     act(2, "edit");
+    EXPECT_EQ(done, QStringList({"Off", "3"}));
+    QDialog editor;
+    editor.setModal(true);
+    editor.show();
+    act(2, "edit");
+    EXPECT_EQ(done.size(), 2) << "there is an editor already";
+    editor.close();
+
     session.dbPath = testFolder().chopped(1);
     putFile(inTestFolder(u"CARDAAA2.snd"_s), "sound");
     act(1, "play");

@@ -6,6 +6,7 @@
 #include "database/chooseDatabase.h"
 #include "store/settings.h"
 #include "support/dialogs.h"
+#include "support/files.h"
 #include "support/slowMount.h"
 
 #include <QLabel>
@@ -201,11 +202,22 @@ TEST_F(ChoosingADatabase, TheSettingsGiveTheWorkingFolderAndKeepPupilsInIt)
               u"home/class 2/pets"_s);
 
     setting("Working Dir", "Path", testFolder() + u"gone"_s);
+    const QString documents = testFolder() + u"home/new pupil"_s;
+    desktop.files.documentsFolder = [documents] { return documents; };
     EXPECT_EQ(chosen([](FileForm& files) {
-                  EXPECT_TRUE(QTest::qWaitFor([&] { return !files.isVisible(); }, patience));
+                  EXPECT_TRUE(
+                      QTest::qWaitFor([&] { return files.CurDirBox->text() == u"new pupil"_s; }, patience));
+                  click(files, "CancelBut");
               }),
               cancelled);
-    EXPECT_EQ(recorded.messages.last(), u"Error|Path not found"_s);
+    EXPECT_EQ(recorded.messages, QStringList(u"Error|Path not found"_s));
+    putFile(documents + u" 2"_s, "no folder can be made here");
+    desktop.files.documentsFolder = [documents] { return documents + u" 2/documents"_s; };
+    EXPECT_EQ(chosen([](FileForm& files) {
+                  EXPECT_TRUE(QTest::qWaitFor([&] { return files.folder() == QDir::homePath(); }, patience));
+                  click(files, "CancelBut");
+              }),
+              cancelled);
 }
 
 TEST_F(ChoosingADatabase, AQuickDoubleClickInASlowFolderNeverEntersADatabase)

@@ -1,4 +1,5 @@
 #include "database/NewForm.h"
+#include "database/newDatabase.h"
 
 #include "controls/fittedLabel.h"
 #include "controls/forms.h"
@@ -161,7 +162,8 @@ TEST_F(NewDatabase, AFolderThatCannotBeMadeEndsInTheErrorBoxAndTheWizardStays)
     } cases[] = {
         {u"cats/dogs"_s, "Path/File access error"}, {u"a\\b"_s, "Path/File access error"},
         {u"who?"_s, "Path/File access error"},      {u".."_s, "Path/File access error"},
-        {u"  "_s, "Path/File access error"},        {QString(300, u'x'), "Path not found"},
+        {u"  "_s, "Path/File access error"},        {u".pets"_s, "Path/File access error"},
+        {QString(300, u'x'), "Path not found"},
     };
     for (const auto& [name, message] : cases) {
         recorded.messages.clear();
@@ -183,6 +185,7 @@ TEST_F(NewDatabase, AFolderThatCannotBeMadeEndsInTheErrorBoxAndTheWizardStays)
         press(finishButton(dialog));
     });
     EXPECT_EQ(recorded.messages, QStringList(u"Error|Path not found"_s));
+    EXPECT_EQ(newDatabasePath(u"/school"_s, u"Pets \u00A0 "_s), u"/school/Pets"_s);
 }
 
 TEST_F(NewDatabase, ClosingTheOldOneLeavesAnEmptyBoardAndItsFolderWhenCancelled)

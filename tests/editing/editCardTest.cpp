@@ -115,12 +115,12 @@ TEST_F(EditingCards, FiltersWhatIsTyped)
         {2, "1-2", "12"},
         {2, "1.2.3", "1.2.3"},
         {2, "three 3", "3"},
-        {1, "1-2 \"x\"", "1-2 \"x\""},
+        {1, "1-2 \"x\"", "1-2 “x”"},
     };
     pupil([&](editCard& editor) {
         for (const Case& c : cases) {
             type(editor, c.field, QLatin1String(c.typed));
-            EXPECT_EQ(editor.DataBox[c.field]->text(), QLatin1String(c.kept));
+            EXPECT_EQ(editor.DataBox[c.field]->text(), QString::fromUtf8(c.kept));
         }
         EXPECT_EQ(recorded.beeps, 0);
         editor.DataBox[2]->setText(u"1234"_s);

@@ -63,6 +63,8 @@ TEST(Waves, GiveTheSoundThatDamagedAndUnusualFilesStillHold)
         {"an odd chunk without its filling byte",
          riff(chunk("LIST", "odd") + plainFormat + chunk("data", "abcd")), "abcd"},
         {"the data first", riff(chunk("data", "abcd") + plainFormat), "abcd"},
+        {"the lowest rate", riff(chunk("fmt ", format(1, 1, 1000, 8)) + chunk("data", "abcd")), "abcd"},
+        {"the highest", riff(chunk("fmt ", format(1, 1, 384000, 8)) + chunk("data", "abcd")), "abcd"},
         {"extensible", riff(chunk("fmt ", extensible(1)) + chunk("data", fourTwice)), fourTwice},
     };
     for (const auto& [what, file, samples] : cases)
@@ -87,7 +89,8 @@ TEST(Waves, RefuseWhatCannotBePlayed)
         riff(chunk("fmt ", format(1, 1, 11025, 24)) + data),
         riff(chunk("fmt ", format(1, 0, 11025, 8)) + data),
         riff(chunk("fmt ", format(1, 65535, 11025, 16)) + data),
-        riff(chunk("fmt ", format(1, 1, 0, 8)) + data),
+        riff(chunk("fmt ", format(1, 1, 999, 8)) + data),
+        riff(chunk("fmt ", format(1, 1, 384001, 8)) + data),
         riff(chunk("fmt ", format(1, 1, -1, 16)) + data),
         riff(chunk("fmt ", extensible(3)) + data),
         riff(chunk("fmt ", extensible(1).chopped(8)) + data),

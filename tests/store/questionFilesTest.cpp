@@ -15,8 +15,11 @@ TEST_F(QuestionFiles, DeletingTheAnswersTouchesNothingElse)
     putFile(inTestFolder(u"ANSWERS.TXT"_s), "x");
     putFile(inTestFolder(u"Questions.txt"_s), "x");
     deleteAnswers();
+    EXPECT_TRUE(QFile::exists(inTestFolder(u"ANSWERS.TXT"_s))) << "the folder is no database";
+    putFile(inTestFolder(u"DB-Info.tdb"_s), "x");
     deleteAnswers();
-    EXPECT_EQ(QDir(testFolder()).entryList(QDir::Files), QStringList(u"Questions.txt"_s));
+    deleteAnswers();
+    EXPECT_EQ(QDir(testFolder()).entryList(QDir::Files), QStringList({u"DB-Info.tdb"_s, u"Questions.txt"_s}));
 }
 
 TEST_F(QuestionFiles, GrowByALineEndWithEachCycleAndKeepWhatOthersHaveWritten)

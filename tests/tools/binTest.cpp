@@ -48,6 +48,19 @@ TEST_F(TheBin, TakesACardWhoseCentreLiesWithinIt)
     EXPECT_FALSE(liesOnBin(1));
 }
 
+TEST_F(TheBin, IsPutAwayWhenTheDatabaseBecomesReadOnly)
+{
+    loadAllCards();
+    session.board.BigBin.visible = true;
+    session.databaseStatus = u"RO"_s; // by a program on another workstation
+    session.box[1].left = session.board.BigBin.left;
+    session.box[1].top = session.board.BigBin.top;
+    EXPECT_FALSE(liesOnBin(1));
+    write("db-info.tdb", " 1 \r\n 2 \r\n\"none\"\r\n\"Name\"\r\n\"Abc\"\r\nFalse\r\nRO\r\nVER=\"1.1.0\"\r\n");
+    loadAllCards();
+    EXPECT_FALSE(session.board.BigBin.visible);
+}
+
 TEST_F(TheBin, KeepsTheFilesAndLeavesWhatAnotherRecordOfTheIdentityNeeds)
 {
     write("BBBBBBBB.bmp", "picture");

@@ -13,8 +13,10 @@
 #include "core/title.h"
 #include "store/settings.h"
 #include "support/cards.h"
+#include "support/database.h"
 #include "support/freshStart.h"
 
+#include <QAccessible>
 #include <QCoreApplication>
 #include <QFile>
 #include <QHeaderView>
@@ -40,6 +42,13 @@ protected:
     QStringList refresh;
     int optionsOpened = 0;
 };
+
+/// As a screen reader does it.
+static void toggleByReader(QWidget& control)
+{
+    QAccessible::queryAccessibleInterface(&control)->actionInterface()->doAction(
+        QAccessibleActionInterface::toggleAction());
+}
 
 TEST_F(MainWindow, WithoutADatabaseOnlyTheFileMenuWorks)
 {
@@ -109,6 +118,26 @@ TEST_F(MainWindow, TheRefreshBoxAsksAndShowsWhatCameOfIt)
     QTest::keyClick(window.refreshCheck, Qt::Key_Space);
     EXPECT_FALSE(window.refreshCheck->isChecked());
     EXPECT_THAT(refresh, ElementsAre(u"On"_s, u"On"_s, u"Off"_s));
+
+    toggleByReader(*window.refreshCheck);
+    EXPECT_TRUE(window.refreshCheck->isChecked());
+    EXPECT_EQ(refresh.last(), u"On"_s);
+}
+
+TEST_F(MainWindow, AssistiveTechnologyChangesTheModeAsAClickDoes)
+{
+    session.dbPath = writeDatabase(u"class"_s, 2);
+    session.window.btnCards = {true, true, true};
+    session.window.btnTable = {true, true, false};
+    window.showControls();
+    toggleByReader(*window.btnTable);
+    EXPECT_TRUE(session.table.panel.visible);
+    EXPECT_EQ(session.numCards, 2) << "the folder was read";
+    EXPECT_FALSE(window.btnCards->isChecked());
+    toggleByReader(*window.btnCards);
+    EXPECT_FALSE(session.table.panel.visible);
+    EXPECT_TRUE(window.btnCards->isChecked());
+}
 
     mainView.setRefresh = [](const QString&) { throw RuntimeError(pathNotFound); }; // must not enter Qt
     click();
