@@ -42,7 +42,8 @@ void append(QByteArray& bytes, Number value)
 
 QByteArray bytesAt(QIODevice& file, qint64 at, qint64 length)
 {
-    return file.seek(at) ? file.read(length) : QByteArray();
+    const bool within = length > 0 && at <= file.size();
+    return within && file.seek(at) ? file.read(length) : QByteArray();
 }
 
 struct Chunk {

@@ -196,7 +196,8 @@ TEST_F(NewDatabase, ClosingTheOldOneLeavesAnEmptyBoardAndItsFolderWhenCancelled)
     session.fieldName[1] = u"Pet"_s;
     session.design.ChkRD = true;
     session.menu.MenuTop[1].enabled = true;
-    putFile(inTestFolder(u"Answers.txt"_s), "x");
+    for (const char* name : {"Answers.txt", "db-info.tdb"})
+        putFile(inTestFolder(QLatin1String(name)), "x");
     recorded.dialogSteps.push_back([](QDialog& dialog) {
         EXPECT_EQ(session.window.title, titleWithoutDatabase());
         QTest::keyClick(&dialog, Qt::Key_Escape);

@@ -78,7 +78,7 @@ TEST_F(Sharing, AProgramThatMakesRoomAmongTheKeptVersionsDoesntHinderAnother)
         tellParent();
         for (;;) {
             QDir().rmdir(moment); // only while it is empty
-            QThread::usleep(50);
+            QThread::msleep(2);
         }
     });
     remover.waitUntilTold();

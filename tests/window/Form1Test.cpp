@@ -196,8 +196,7 @@ TEST_F(MainWindow, TheTimersReadTheirOptionsOnce)
 
 TEST_F(MainWindow, ClosingItTakesTheAnswersAwayAndEveryForm)
 {
-    session.dbPath = testFolder() + u"zoo"_s;
-    QDir().mkpath(session.dbPath);
+    session.dbPath = writeDatabase(u"zoo"_s, 0);
     QFile answers(session.dbPath + u"/Answers.txt"_s);
     ASSERT_TRUE(answers.open(QIODevice::WriteOnly));
     answers.close();
