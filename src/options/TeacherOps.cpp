@@ -13,6 +13,7 @@
 #include "platform/colour.h"
 #include "platform/desktop.h"
 #include "platform/errors.h"
+#include "store/settings.h"
 
 #include <QBoxLayout>
 #include <QCheckBox>
@@ -51,6 +52,20 @@ void viewGuide()
     else
         desktop.boxes.showMessage(MessageIcon::stop, u"Error"_s,
                                   u"User Guide not found! Please Re-install Tallymoor."_s);
+}
+
+/// How far changes reach where they don't reach everybody.
+QString reachOfChanges()
+{
+    switch (settingsPlace()) {
+    case SettingsPlace::programFolder:
+        return {};
+    case SettingsPlace::usersOwn:
+        return u"Installed by an administrator: changes are for you alone. They go to "_s + ownSettingsFile();
+    case SettingsPlace::nowhere:
+        break;
+    }
+    return u"Settings can't be written on this computer: changes last until Tallymoor is closed."_s;
 }
 
 QString keyOf(Page page, const QString& caption) { return QString::number(int(page)) + caption; }
@@ -314,6 +329,7 @@ void TeacherOps::load()
     letTabFindTheChosen({Opt1, Opt2});
     values = read; // a value that is no word of its tick stays as it was read
     showBackground();
+    lblKept->setText(reachOfChanges());
     askForPrinters();
     ensurePolished(); // the style sheet's measures
     layout()->menuBar()->ensurePolished();
@@ -386,7 +402,10 @@ void TeacherOps::takePrinter(int index)
 
 void TeacherOps::keep()
 {
-    keepTeacherValues(values);
+    const bool foreseen = settingsPlace() == SettingsPlace::nowhere; // and said in the window
+    if (!keepTeacherValues(values) && !foreseen)
+        desktop.boxes.showMessage(MessageIcon::exclamation, windowTitle(),
+                                  u"Your changes could not be saved. They last until Tallymoor is closed."_s);
     unload<TeacherOps>();
 }
 

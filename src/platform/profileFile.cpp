@@ -190,9 +190,17 @@ QStringList linesOfFile(const QString& path)
 
 QString readProfile(const QString& section, const QString& key, const QString& absent, const QString& path)
 {
-    std::optional<QString> value;
-    ignoringErrors({[&] { value = valueIn(linesOfFile(path), section, key); }});
-    return value.value_or(withoutBlanksAtEnd(absent)).left(longestValue);
+    return readProfile({{section, key, absent}}, path).first();
+}
+
+QStringList readProfile(const QList<ProfileLine>& wanted, const QString& path)
+{
+    QStringList lines;
+    ignoringErrors({[&] { lines = linesOfFile(path); }});
+    QStringList values;
+    for (const auto& [section, key, absent] : wanted)
+        values.append(valueIn(lines, section, key).value_or(withoutBlanksAtEnd(absent)).left(longestValue));
+    return values;
 }
 
 bool writeProfile(const QList<ProfileLine>& changes, const QString& path)

@@ -3,6 +3,7 @@
 
 #include <QList>
 #include <QString>
+#include <QStringList>
 
 /// The value of the first such key in the first such section, without surrounding blanks and one pair of
 /// double or single quotes. Without one, `absent` without the blanks at its end. Either is cut to 199
@@ -15,6 +16,10 @@ struct ProfileLine {
     QString key;
     QString value;
 };
+
+/// The values of several keys from one reading of the file, in their order. The lines' values are those of
+/// missing keys.
+QStringList readProfile(const QList<ProfileLine>& wanted, const QString& path);
 
 /// Changes or adds these lines at one stroke; all others stay as they are, in their order. Line breaks in a
 /// value become blanks. A lock keeps two programs, also on different machines, from changing the file at the

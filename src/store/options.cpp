@@ -3,7 +3,6 @@
 #include "core/session.h"
 #include "platform/desktop.h"
 #include "platform/errors.h"
-#include "platform/profileFile.h"
 #include "platform/values.h"
 #include "store/paths.h"
 #include "store/settings.h"
@@ -34,9 +33,12 @@ QString read(const Option& option)
 
 QStringList readSettings(const QList<Option>& options)
 {
-    QStringList values;
+    QList<ProfileLine> lines;
     for (const Option& option : options)
-        values.append(read(option));
+        lines.append({latin(option.section), latin(option.key), latin(option.absent)});
+    QStringList values = readInstalledSettings(lines);
+    for (qsizetype i = 0; i < options.size(); ++i)
+        values[i] = session.options.unwritten.value(keyOf(options[i]), values[i]);
     return values;
 }
 
@@ -56,7 +58,7 @@ bool writeSettings(const QList<Setting>& settings)
     QList<ProfileLine> lines;
     for (const auto& [option, value] : settings)
         lines.append({latin(option.section), latin(option.key), value});
-    const bool written = writeProfile(lines, settingsFile());
+    const bool written = writeInstalledSettings(lines);
     for (const auto& [option, value] : settings) {
         if (written)
             session.options.unwritten.remove(keyOf(option));

@@ -11,8 +11,6 @@ namespace {
 
 const QString fileName = u"tallymoor.ini"_s;
 
-QString ownFile() { return joinPath(desktop.files.ownFolder(), fileName); }
-
 /// A file that isn't there can be written when it can be made.
 bool canBeWritten(const QString& file)
 {
@@ -28,20 +26,22 @@ bool isAsRead(const ProfileLine& line)
 
 } // namespace
 
+QString ownSettingsFile() { return joinPath(desktop.files.ownFolder(), fileName); }
+
 QString settingsFile() { return joinPath(desktop.files.programFolder(), fileName); }
 
 SettingsPlace settingsPlace()
 {
     if (canBeWritten(settingsFile()))
         return SettingsPlace::programFolder;
-    return canBeWritten(ownFile()) ? SettingsPlace::usersOwn : SettingsPlace::nowhere;
+    return canBeWritten(ownSettingsFile()) ? SettingsPlace::usersOwn : SettingsPlace::nowhere;
 }
 
 QString readSetting(const QString& file, const QString& section, const QString& key, const QString& absent)
 {
     const QString installed = readProfile(section, key, absent, file);
     const bool overlaid = file == settingsFile() && !canBeWritten(file);
-    return overlaid ? readProfile(section, key, installed, ownFile()) : installed;
+    return overlaid ? readProfile(section, key, installed, ownSettingsFile()) : installed;
 }
 
 bool writeSetting(const QString& file, const QString& section, const QString& key, const QString& value)
@@ -53,14 +53,22 @@ bool writeSetting(const QString& file, const QString& section, const QString& ke
     return true;
 }
 
-void writeInstalledSettings(const QList<ProfileLine>& lines)
+bool writeInstalledSettings(const QList<ProfileLine>& lines)
 {
-    if (settingsPlace() == SettingsPlace::programFolder) {
-        writeProfile(lines, settingsFile());
-        return;
-    }
+    if (settingsPlace() == SettingsPlace::programFolder)
+        return writeProfile(lines, settingsFile());
     QList<ProfileLine> changes = lines;
     changes.removeIf(isAsRead);
-    if (!changes.isEmpty())
-        writeProfile(changes, ownFile());
+    return changes.isEmpty() || writeProfile(changes, ownSettingsFile());
+}
+
+QStringList readInstalledSettings(const QList<ProfileLine>& lines)
+{
+    QStringList values = readProfile(lines, settingsFile());
+    if (canBeWritten(settingsFile()))
+        return values;
+    QList<ProfileLine> overlaid = lines;
+    for (qsizetype i = 0; i < lines.size(); ++i)
+        overlaid[i].value = values[i];
+    return readProfile(overlaid, ownSettingsFile());
 }

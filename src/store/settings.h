@@ -9,6 +9,7 @@
 #include "platform/profileFile.h"
 
 #include <QString>
+#include <QStringList>
 
 /// The settings file in the program's folder.
 QString settingsFile();
@@ -27,5 +28,12 @@ QString readSetting(const QString& file, const QString& section, const QString& 
 bool writeSetting(const QString& file, const QString& section, const QString& key, const QString& value);
 
 /// Writes these lines in one replacement of the file that settingsPlace() names. In the user's own file only
-/// those that differ from what is read now, so that the others still follow the installation.
-void writeInstalledSettings(const QList<ProfileLine>& lines);
+/// those that differ from what is read now, so that the others still follow the installation. False when they
+/// could not be written.
+bool writeInstalledSettings(const QList<ProfileLine>& lines);
+
+/// The values of these keys from one reading of each file; the lines' own values are those of missing keys.
+QStringList readInstalledSettings(const QList<ProfileLine>& lines);
+
+/// The user's own settings file.
+QString ownSettingsFile();

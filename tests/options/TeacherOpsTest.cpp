@@ -15,6 +15,7 @@
 #include "window/startValues.h"
 
 #include <QCheckBox>
+#include <QDir>
 #include <QLineEdit>
 #include <QRadioButton>
 #include <QTabBar>
@@ -186,6 +187,22 @@ TEST_F(TeachersOptions, CancelWritesNothingAndKeepsWhatCountedAtOnce)
     EXPECT_FALSE(session.options.caseSensitive);
     options([](TeacherOps&) { press("cancel_but"); });
     EXPECT_EQ(session.options.soundStatus, 0) << "opening reads it again";
+}
+
+TEST_F(TeachersOptions, LastUntilTheEndWhereNothingCanBeWritten)
+{
+    QDir().mkpath(inTestFolder(u"tallymoor.ini/full"_s)); // a folder in the file's place
+    options([](TeacherOps& screen) {
+        EXPECT_EQ(screen.lblKept->text(), QString());
+        press("ChkRefresh");
+        press("ChkSnd");
+        press("ok_but");
+    });
+    EXPECT_EQ(recorded.messages, QStringList(u"Teacher Options|Your changes could not be saved. "
+                                             "They last until Tallymoor is closed."_s));
+    EXPECT_TRUE(refreshHidden() && soundOffered());
+    begin();
+    EXPECT_FALSE(refreshHidden() || soundOffered());
 }
 
 TEST_F(TeachersOptions, TakeChosenFoldersColoursAndLetters)
