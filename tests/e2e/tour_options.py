@@ -101,11 +101,7 @@ def by_keyboard_alone(tour):
     tour.picture("no-guide")
     tour.key("Return")
     tour.dialog(TITLE)
-    for _ in range(12):
-        if lock.has("focused"):
-            break
-        tour.key("Tab")
-    tour.key("space", "Return")
+    tour.key(*["Tab"] * 3, "space", "Return")
     tour.wait_until(lambda: tour.settings.get("LockDB", "Status") == "0", "the lock to be written")
 
 
@@ -172,7 +168,4 @@ with Tour("options") as tour:
     tour.start()
     tour.open_last()
     tour.find("push button", "Show Clues")
-    see_card = tour.all("check box", "Refresh Database")
-    tour.check(not see_card, "the refresh is back")
-    open_options(tour, "ctrl+shift+q")
-    tour.answer(TITLE, "Cancel")
+    tour.check(not tour.all("check box", "Refresh Database"), "the refresh is back")

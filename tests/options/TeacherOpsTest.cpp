@@ -9,6 +9,7 @@
 #include "editing/design.h"
 #include "editing/editCard.h"
 #include "options/aboutPage.h"
+#include "store/settings.h"
 #include "support/files.h"
 #include "window/Form1.h"
 #include "window/assembly.h"
@@ -73,15 +74,11 @@ protected:
         settle();
     }
 
-    static void settle()
+    static void settle() // the one-shot timers
     {
-        const auto waiting = [] {
-            const auto timers = form<Form1>().findChildren<QTimer*>();
-            return std::any_of(timers.begin(), timers.end(), [](QTimer* timer) {
-                return timer->isActive() && timer->isSingleShot() && timer->interval() < 100;
-            });
-        };
-        ASSERT_TRUE(QTest::qWaitFor([&] { return !waiting(); }));
+        const auto waits = [](QTimer* timer) { return timer->isActive() && timer->interval() < 100; };
+        const auto timers = form<Form1>().findChildren<QTimer*>(QString(), Qt::FindDirectChildrenOnly);
+        ASSERT_TRUE(QTest::qWaitFor([&] { return std::none_of(timers.begin(), timers.end(), waits); }));
     }
 
     static void options(const std::function<void(TeacherOps&)>& act)
@@ -91,7 +88,7 @@ protected:
         settle();
     }
 
-    static QByteArray file() { return bytesOf(inTestFolder(u"tallymoor.ini"_s)); }
+    static QByteArray file() { return bytesOf(settingsFile()); }
 };
 
 TEST_F(TeachersOptions, ActWhereAndWhenTheyShould)
@@ -185,8 +182,6 @@ TEST_F(TeachersOptions, CancelWritesNothingAndKeepsWhatCountedAtOnce)
     EXPECT_EQ(session.options.roOptionStatus, u"RO"_s);
     EXPECT_EQ(session.options.upLevelStatus, u"True"_s);
     EXPECT_FALSE(session.options.caseSensitive);
-    options([](TeacherOps&) { press("cancel_but"); });
-    EXPECT_EQ(session.options.soundStatus, 0) << "opening reads it again";
 }
 
 TEST_F(TeachersOptions, LastUntilTheEndWhereNothingCanBeWritten)
@@ -216,16 +211,11 @@ TEST_F(TeachersOptions, TakeChosenFoldersColoursAndLetters)
         screen.KeyCombo->setCurrentText(u"q"_s);
         press("ok_but");
     });
-    EXPECT_EQ(read(option::workingFolder), u"/class"_s);
     EXPECT_EQ(session.board.colour, QString::number(10 + 11 * 256 + 12 * 65536));
     EXPECT_EQ(session.options.keysValue, u"K"_s) << "until it is read again";
     options([](TeacherOps& screen) {
         EXPECT_EQ(session.options.keysValue, u"Q"_s);
-        EXPECT_TRUE(screen.Opt2->isChecked());
         EXPECT_EQ(screen.WorkingDirTxt->text(), u"/class"_s);
-        press("Opt1");
-        EXPECT_EQ(screen.WorkingDirTxt->text(), documentsWord);
-        EXPECT_FALSE(screen.BtnSetPath->isEnabled());
     });
 }
 
