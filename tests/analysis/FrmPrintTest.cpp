@@ -5,10 +5,9 @@
 #include "core/session.h"
 #include "store/options.h"
 #include "support/cards.h"
-#include "support/files.h"
+#include "support/freshStart.h"
 
 #include <QRadioButton>
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 
@@ -25,17 +24,6 @@ protected:
         session.cardSize = stripSize;
         session.selectedCard = 1;
     }
-
-    static void print(const std::function<void(FrmPrint&)>& act)
-    {
-        recorded.dialogSteps.push_back([act](QDialog& dialog) { act(static_cast<FrmPrint&>(dialog)); });
-        printCommand();
-    }
-
-    static void click(QAbstractButton* button)
-    {
-        QTest::mouseClick(button, Qt::LeftButton, {}, QPoint(20, button->height() / 2));
-    }
 };
 
 TEST_F(PrintDialog, OffersTheStoredPrinterElseTheComputersOwn)
@@ -44,38 +32,16 @@ TEST_F(PrintDialog, OffersTheStoredPrinterElseTheComputersOwn)
         {"0", "Hall"}, {"-1", "Office"}, {"2", "Office"}, {"99999", "Office"}, {"1", "Office"}};
     for (const auto& [stored, offered] : cases) {
         write(option::printer, QLatin1String(stored));
-        print([&](FrmPrint& dialog) {
+        recorded.dialogSteps.push_back([&](QDialog& shown) {
+            auto& dialog = static_cast<FrmPrint&>(shown);
             EXPECT_EQ(dialog.Printercombo->currentText(), QLatin1String(offered)) << stored;
             EXPECT_EQ(dialog.Printercombo->itemText(2), u"Save as PDF"_s);
-            click(dialog.answers->cancel);
+            EXPECT_FALSE(dialog.Option3->isEnabled() || dialog.Option4->isEnabled());
+            dialog.answers->cancel->click();
         });
+        printCommand();
     }
     EXPECT_TRUE(recorded.messages.isEmpty() && recorded.printed.isEmpty());
-}
-
-TEST_F(PrintDialog, PrintsWhatIsChosenWhereItIsChosen)
-{
-    print([](FrmPrint& dialog) {
-        EXPECT_TRUE(dialog.Option1->isChecked());
-        EXPECT_FALSE(dialog.Option3->isEnabled() || dialog.lblgraph->isEnabled());
-        EXPECT_FALSE(dialog.Option4->isEnabled());
-        click(dialog.Option2);
-        dialog.Printercombo->setCurrentIndex(0);
-        click(dialog.answers->ok);
-    });
-    EXPECT_EQ(recorded.printed.join(u' '), u"Hall|Card"_s);
-    EXPECT_EQ(read(option::printer), u"0"_s);
-
-    recorded.chosen = {QString(), inTestFolder(u"board.pdf"_s)}; // the first time it is cancelled
-    for (int time = 0; time < 2; ++time) {
-        print([](FrmPrint& dialog) {
-            dialog.Printercombo->setCurrentIndex(2);
-            click(dialog.answers->ok);
-        });
-    }
-    EXPECT_EQ(recorded.printed.size(), 1);
-    EXPECT_TRUE(bytesOf(inTestFolder(u"board.pdf"_s)).startsWith("%PDF"));
-    EXPECT_EQ(read(option::printer), u"0"_s) << "the class's printer stays";
 }
 
 } // namespace

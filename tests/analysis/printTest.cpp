@@ -118,19 +118,4 @@ TEST_F(Printing, NothingIsSentUnlessAllIsWell)
     }
 }
 
-TEST_F(Printing, TwelveLongFieldsStayOnTheirSheet)
-{
-    session.cardSize = stripSize;
-    cards({u"cat"_s});
-    session.numFields = 12;
-    for (int f = 1; f <= 12; ++f)
-        session.cardValue[1][f] = u"value%1 "_s.arg(f).repeated(30);
-    const QByteArray pdf = pdfOf(usualSheet(), u"Card"_s, [](Page& page) { drawCard(page, 1); });
-    const QString words = pdftotext(pdf, u"-bbox"_s);
-    const QRegularExpression right(u"xMax=\"([\\d.]+)\""_s);
-    for (const auto& found : right.globalMatch(words))
-        EXPECT_LE(found.captured(1).toDouble(), usualSheet().width());
-    EXPECT_TRUE(words.contains(u">value12<"_s));
-}
-
 } // namespace

@@ -19,24 +19,19 @@ RequestRoot {home}/spool
 TempDir {home}/spool/tmp
 CacheDir {home}/cache
 StateDir {home}/state
-DataDir /usr/share/cups
 AccessLog {home}/access.log
 ErrorLog {home}/error.log
 PageLog {home}/page.log
-SystemGroup root
 """
 RULES = """Listen {home}/sock
 Browsing Off
 WebInterface No
-DefaultAuthType None
 <Location />
-  Order allow,deny
   Allow all
 </Location>
 <Policy default>
   <Limit All>
     Order allow,deny
-    Allow all
   </Limit>
 </Policy>
 """
@@ -110,15 +105,15 @@ class Sheet:
         return [int(n) for n in subprocess.run(("identify", "-format", "%w %h", str(self.picture)), stdout=subprocess.PIPE,
                                                check=True, text=True).stdout.split()]
 
+    def leaves_room(self, margin):
+        """Whether nothing is printed within that margin of the paper's edge."""
+        rows, dots = len(self._grey) // self._row, round(margin * DOTS / 1440)
+        return min(self._grey[:dots * self._row] + self._grey[(rows - dots) * self._row:]) > 200 and all(
+            min(self._grey[x::self._row]) > 200 for x in (*range(dots), *range(self._row - dots, self._row)))
+
     def dark(self, x, y, reach=1):
         """Whether there is ink within `reach` dots of the place."""
         across, down = round(x * DOTS / 1440), round(y * DOTS / 1440)
         around = [self._grey[row * self._row + column] for row in range(down - reach, down + reach + 1)
                   for column in range(across - reach, across + reach + 1)]
         return min(around) < 140
-
-    def ink(self):
-        """Left, top, right and bottom of all that is printed."""
-        rows = [y for y in range(len(self._grey) // self._row) if min(self._grey[y * self._row:(y + 1) * self._row]) < 200]
-        columns = [x for x in range(self._row) if min(self._grey[x::self._row]) < 200]
-        return [dot * 1440 / DOTS for dot in (columns[0], rows[0], columns[-1], rows[-1])]

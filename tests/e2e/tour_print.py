@@ -71,10 +71,9 @@ def printed(tour, shop, option, landscape=True):
 
 def read(tour, path, option, landscape):
     sheet = Sheet(path, landscape)
-    tour.desk.run("cp", str(sheet.picture), str(tour.pictures / f"paper-{option.replace(' ', '')}-{path.stem[:2]}.png"))
+    tour.desk.run("cp", str(sheet.picture), str(tour.pictures / f"paper-{option}-{path.stem[:2].strip()}.png"))
     tour.check(sheet.pages == 1, f"{option} has {sheet.pages} pages")
-    left, top, right, bottom = sheet.ink()
-    tour.check(min(left, top, sheet.width - right, sheet.height - bottom) > 300, f"{option} leaves its sheet")
+    tour.check(sheet.leaves_room(300), f"{option} leaves its sheet")
     return sheet
 
 
@@ -163,10 +162,7 @@ def graph(tour, shop):
     tour.find("list", "Zoo")
     sheet = printed(tour, shop, "Print Graph")
     check_words(tour, sheet, {"Zoo": 1, "grün": 1, "żółty": 1, "blau": 1})
-    left, top, right, _ = sheet.ink()
-    margin = 0.08 * sheet.height
-    tour.check(left >= margin - SLACK and top >= margin - SLACK and right <= sheet.width - margin + SLACK,
-               "the graph is beside its place")
+    tour.check(sheet.leaves_room(0.08 * sheet.height - SLACK), "the graph is beside its place")
 
 
 def as_file(tour, shop):
@@ -200,7 +196,6 @@ def faults(tour, shop):
         tour.find("label", "Make sure your printer is ready !", within=tour.dialog("Printer Problem"))
         waited = time.monotonic() - begun
         print(f"{what}: {waited:.2f} s until the box")
-        tour.picture(what)
         tour.answer("Printer Problem", "OK")
         tour.click(tour.find("push button", "File"))
         tour.find("push button", "Print...", within=tour.find("frame", "File"))
