@@ -100,9 +100,22 @@ def opens_where_it_did(tour):
     tour.check(places[0] == places[1], f"the dialog opened at {places}")
 
 
+def see_whole_list(tour, box, count):
+    """Opens a drop-down list: all lines are in view, and the last one isn't cut off."""
+    tour.click(box)
+    lines = tour.wait_until(lambda: tour.all("list item", within=box), "the list to open")
+    _, top, _, height = tour.find("list", within=box).rectangle
+    bottom = max(line.rectangle[1] + line.rectangle[3] for line in lines)
+    tour.check(len(lines) == count and bottom <= top + height, f"{len(lines)} lines of {count} end at {bottom}, "
+               f"the list at {top + height}")
+    tour.key("Return")
+    tour.wait_until(lambda: box.has("focused"), "the list to close")
+
+
 def sort(tour, monsters):
     tour.choose("Data", "Sort...")
     dialog = tour.dialog("Sort Cards")
+    see_whole_list(tour, tour.find("combo box", within=dialog), len(monsters[0]))
     tour.pick(tour.find("combo box", within=dialog), "Height cm")
     tour.click(tour.find("radio button", "Going Down", within=dialog))
     tour.picture("sort-asked")
