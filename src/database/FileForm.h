@@ -81,7 +81,7 @@ private:
     QWidget* row = nullptr;
     QLabel* waitLabel = nullptr;
     bool starting = false;
-    QString chosenPath; // of the highlighted item, which OK opens; empty without one
+    QString chosenPath;      // of the highlighted item, which OK opens; empty without one
     QStringList otherStarts; // to be tried while the folder to start in can't be read
     QString wishedPath;      // a folder clicked before it was known whether it is a database
     Wish wish = Wish::none;

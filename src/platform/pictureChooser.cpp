@@ -69,7 +69,7 @@ QString choosePictureFile(const QString& caption, const QString& startFolder, co
 {
     QFileDialog dialog(owningWindow(), caption, startFolder, filter);
     dialog.setFileMode(QFileDialog::ExistingFile);
-    dialog.setOption(QFileDialog::DontUseNativeDialog); // the layout below is that of Qt's own dialog
+    dialog.setOption(QFileDialog::DontUseNativeDialog);   // the layout below is that of Qt's own dialog
     dialog.setOption(QFileDialog::HideNameFilterDetails); // there is no room for the endings
     dialog.resize(dialogSize);
     auto* preview = new Preview;

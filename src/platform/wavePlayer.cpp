@@ -156,9 +156,7 @@ WavePlayer& wavePlayer()
 
 void playWaveFile(const QString& path)
 {
-    ignoringErrors({[&] {
-        wavePlayer().playFile(path);
-    }});
+    ignoringErrors({[&] { wavePlayer().playFile(path); }});
 }
 
 void leaveSound()

@@ -139,10 +139,10 @@ TEST_F(MainWindow, AssistiveTechnologyChangesTheModeAsAClickDoes)
     EXPECT_TRUE(window.btnCards->isChecked());
 }
 
-    mainView.setRefresh = [](const QString&) { throw RuntimeError(pathNotFound); }; // must not enter Qt
-    click();
-    EXPECT_THAT(recorded.messages, ElementsAre(u"Error|Path not found"_s));
-    EXPECT_FALSE(window.refreshCheck->isChecked());
+mainView.setRefresh = [](const QString&) { throw RuntimeError(pathNotFound); }; // must not enter Qt
+click();
+EXPECT_THAT(recorded.messages, ElementsAre(u"Error|Path not found"_s));
+EXPECT_FALSE(window.refreshCheck->isChecked());
 }
 
 TEST_F(MainWindow, TheBoardIsTheWholeInsideAndTheBandClosesTheMenu)
