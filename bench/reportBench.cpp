@@ -1,5 +1,7 @@
 // A report on a full database: 99 cards with twelve fields each, made and shown, against putting together the
 // same text.
+#include "fullFolder.h"
+
 #include "analysis/report.h"
 #include "analysis/reportForm.h"
 #include "controls/forms.h"
@@ -60,6 +62,7 @@ BENCHMARK(reportText)->Unit(benchmark::kMillisecond);
 /// From the click on the tab until the report is painted.
 void reportInView(benchmark::State& state)
 {
+    startFresh();
     const QString text = templateForFullDatabase();
     auto& window = form<reportForm>();
     window.design->setPlainText(text);
