@@ -2,6 +2,7 @@
 
 #include "analysis/analysisCommands.h"
 #include "analysis/frmQuestion.h"
+#include "analysis/reportForm.h"
 #include "board/boardWidget.h"
 #include "board/tablePanel.h"
 #include "controls/balloon.h"
@@ -21,6 +22,8 @@
 #include "tools/warnForm.h"
 #include "window/Form1.h"
 #include "window/dispatch.h"
+
+#include <QPlainTextEdit>
 
 namespace {
 
@@ -66,6 +69,18 @@ void connectBoard()
     });
 }
 
+/// Enables a control of the report window, or opens its text for typing, if the window is loaded.
+void allowInReport(const char* control, bool allowed)
+{
+    if (!isLoaded<reportForm>())
+        return;
+    auto* part = form<reportForm>().findChild<QWidget*>(QLatin1StringView(control));
+    if (auto* text = qobject_cast<QPlainTextEdit*>(part))
+        text->setReadOnly(!allowed);
+    else if (part)
+        part->setEnabled(allowed);
+}
+
 void connectCommands()
 {
     mainView.setRefresh = setRefresh;
@@ -77,6 +92,7 @@ void connectCommands()
     mainView.watchTutorial = watchTutorial;
     mainView.showClues = showClues;
     mainView.closeClues = unload<frmQuestion>;
+    mainView.allowInReport = allowInReport;
     mainView.openTeacherOptions = openTeacherOptions;
     mainView.startTimer = inWindow([](Form1& window, const char* name) { window.startTimer(name); });
 }

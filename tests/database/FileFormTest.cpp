@@ -207,7 +207,7 @@ TEST_F(ChoosingADatabase, TheSettingsGiveTheWorkingFolderAndKeepPupilsInIt)
     EXPECT_EQ(chosen([](FileForm& files) {
                   EXPECT_TRUE(
                       QTest::qWaitFor([&] { return files.CurDirBox->text() == u"new pupil"_s; }, patience));
-                  click(files, "CancelBut");
+                  press(files, "CancelBut");
               }),
               cancelled);
     EXPECT_EQ(recorded.messages, QStringList(u"Error|Path not found"_s));
@@ -215,7 +215,7 @@ TEST_F(ChoosingADatabase, TheSettingsGiveTheWorkingFolderAndKeepPupilsInIt)
     desktop.files.documentsFolder = [documents] { return documents + u" 2/documents"_s; };
     EXPECT_EQ(chosen([](FileForm& files) {
                   EXPECT_TRUE(QTest::qWaitFor([&] { return files.folder() == QDir::homePath(); }, patience));
-                  click(files, "CancelBut");
+                  press(files, "CancelBut");
               }),
               cancelled);
 }

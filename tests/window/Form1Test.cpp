@@ -122,6 +122,12 @@ TEST_F(MainWindow, TheRefreshBoxAsksAndShowsWhatCameOfIt)
     toggleByReader(*window.refreshCheck);
     EXPECT_TRUE(window.refreshCheck->isChecked());
     EXPECT_EQ(refresh.last(), u"On"_s);
+
+    window.refreshCheck->setChecked(false);
+    mainView.setRefresh = [](const QString&) { throw RuntimeError(pathNotFound); }; // must not enter Qt
+    click();
+    EXPECT_THAT(recorded.messages, ElementsAre(u"Error|Path not found"_s));
+    EXPECT_FALSE(window.refreshCheck->isChecked());
 }
 
 TEST_F(MainWindow, AssistiveTechnologyChangesTheModeAsAClickDoes)
@@ -137,12 +143,6 @@ TEST_F(MainWindow, AssistiveTechnologyChangesTheModeAsAClickDoes)
     toggleByReader(*window.btnCards);
     EXPECT_FALSE(session.table.panel.visible);
     EXPECT_TRUE(window.btnCards->isChecked());
-}
-
-mainView.setRefresh = [](const QString&) { throw RuntimeError(pathNotFound); }; // must not enter Qt
-click();
-EXPECT_THAT(recorded.messages, ElementsAre(u"Error|Path not found"_s));
-EXPECT_FALSE(window.refreshCheck->isChecked());
 }
 
 TEST_F(MainWindow, TheBoardIsTheWholeInsideAndTheBandClosesTheMenu)

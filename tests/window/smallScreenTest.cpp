@@ -1,5 +1,7 @@
 // Every dialog on the smallest screen, 1024 by 600, with the longest content.
+#include "analysis/DataMapForm.h"
 #include "analysis/analysisCommands.h"
+#include "analysis/printCommand.h"
 #include "controls/forms.h"
 #include "database/NewForm.h"
 #include "database/chooseDatabase.h"
@@ -7,6 +9,7 @@
 #include "editing/designCommand.h"
 #include "editing/editCard.h"
 #include "editing/frmRemind.h"
+#include "options/TeacherOps.h"
 #include "paint/picEdit.h"
 #include "store/settings.h"
 #include "support/cards.h"
@@ -53,6 +56,10 @@ const struct {
     {"bin", [] { confirmDelete(1); }},
     {"graph", makeGraph},
     {"statistics", showStatistics},
+    {"report", makeReport},
+    {"print", printCommand},
+    {"data map", askIn<DataMapForm>},
+    {"teacher options", openTeacherOptions},
 };
 
 /// Twelve fields with lists, long names, and all that settings can add.
