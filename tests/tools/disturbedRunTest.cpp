@@ -180,6 +180,10 @@ Pupil::Pupil(unsigned seed)
     desktop.yield = [this] { round(); };
     desktop.waitForEvents = [this] { wait(); };
     desktop.boxes.ask = [this](const QString&, const QString&) { return oneIn(2); };
+    desktop.files.chooseFile = [](const QString&, const QString&, const QString&) { return QString(); };
+    desktop.files.choosePicture = desktop.files.chooseFile;
+    desktop.files.chooseNewFile = desktop.files.chooseFile;
+    desktop.files.chooseFolder = [](const QString&, const QString&) { return QString(); };
     modalLoop = [this](QDialog& dialog) { answer(dialog); };
     mainView.redrawCard = [this, redraw = mainView.redrawCard](int card) {
         flying = card;
