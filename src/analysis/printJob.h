@@ -10,10 +10,10 @@ QString currentPrinter();
 
 enum class PaperShape { portrait, landscape };
 
-/// One job of that title on the current printer or, when the pupil has chosen that, a PDF file in a place
-/// that is asked for. Meanwhile the pointer is the hourglass. A printer that takes no jobs, or any error
+/// Prints one job of that title on the current printer or, if the pupil has chosen that, asks for a place and
+/// saves a PDF file. Meanwhile the pointer is the hourglass. A printer that takes no jobs, or any error
 /// while drawing, is shown in the box "Printer Problem", and nothing is printed.
 void printOut(const QString& title, PaperShape shape, const PageDrawing& draw);
 
-/// The sheet on which a printout of that shape would come without a printer's answer.
+/// The sheet for a printout of that shape when the printer doesn't say which one it has.
 QSizeF usualSheetFor(PaperShape shape);

@@ -5,7 +5,7 @@ inline constexpr int mostCardsInGraph = 40; // rows of the group table: each car
 
 /// Says that cards or values are missing.
 void refuseReport();
-/// Says that cards or values are missing; the same is said of too many cards.
+/// Says that cards or values are missing. Also shown when there are more than 40 cards.
 void refuseStatistics();
 /// Says that cards or values are missing.
 void refuseGraph();

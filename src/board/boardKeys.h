@@ -8,5 +8,5 @@ bool boardHasKeys();
 void selectPresentCard();
 
 /// Arrows walk from card to card, and with Shift move the card; Return opens it, Space plays its sound,
-/// Delete lets it go over the bin that is out. `key` is a Qt::Key. False for any other key.
+/// Delete drops it on the bin if the bin is shown. `key` is a Qt::Key. False for any other key.
 bool pressBoardKey(int key, bool shift);

@@ -19,7 +19,7 @@ public:
 
     /// The initial state of the buttons, for a card with or without a sound.
     void showOpening(bool cardHasSound);
-    /// Ends a recording as its button does.
+    /// Does the same as BtnStopRec.
     void stopRecording();
     /// Stops player and recorder; call it when the editor closes.
     void leave();
@@ -39,7 +39,7 @@ public:
     QPushButton* const BtnPause;
     QPushButton* const BtnStop;
     QLabel* const light;
-    QLabel* const status; // what player and recorder do, or what came of the last recording
+    QLabel* const status; // what player and recorder do, or the result of the last recording
     QProgressBar* const level;
     QLabel* const time;
 

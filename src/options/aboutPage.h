@@ -9,7 +9,7 @@
 class QLabel;
 class QPushButton;
 
-/// A window onto a longer text, which moves up through it. It rests while the mouse or the keyboard is on it,
+/// A frame in which a longer text scrolls up. It rests while the mouse or the keyboard is on it,
 /// and can then be moved with the wheel and the arrow keys.
 class ScrollingList : public QFrame {
     Q_OBJECT
@@ -31,7 +31,7 @@ private:
     void step();
     void moveBy(int pixels);
 
-    Errands errands; // asks the desktop
+    Errands errands; // asks the desktop whether things may move
 };
 
 class AboutPage : public QWidget {

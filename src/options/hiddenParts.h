@@ -1,5 +1,5 @@
-// The parts of the teacher's options screen that no design shows: a saving folder, the start-up dialog, tips,
-// updates and the import of lists.
+// Controls of the teacher's options screen that are never shown: a saving folder, the start-up dialog, tips,
+// updates and the import of lists. Their values are read and written with the others.
 #pragma once
 
 #include <QWidget>

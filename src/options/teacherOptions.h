@@ -54,8 +54,8 @@ struct Tick {
 /// All check boxes, in the order of the pages.
 const QList<Tick>& ticks();
 
-/// Reads all options, and passes on at once what opening the screen changes: session.options.keysValue,
-/// soundStatus, roOptionStatus and upLevelStatus.
+/// Reads all options, and copies four of them to session.options: keysValue, soundStatus, roOptionStatus and
+/// upLevelStatus.
 TeacherValues loadTeacherValues();
 
 /// The settings that OK writes, in their order. Without a working folder this is the real documents folder

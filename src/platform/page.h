@@ -36,7 +36,7 @@ public:
     void setFont(const QString& family, double points, bool bold = false);
     void setFont(const QFont& font, double points);
     double textWidth(const QString& text) const;
-    /// Of one line.
+    /// The height of one line of text.
     double textHeight() const;
     /// The text, cut with "…" where it is longer than `room`.
     QString textWithin(const QString& text, double room) const;
@@ -54,7 +54,7 @@ public:
     /// The same for what is drawn in an area of `drawnSize`, in its own measures: lines and texts stay sharp.
     void drawing(const QRectF& place, QSizeF drawnSize, const std::function<void(QPainter&)>& draw);
     void line(QPointF from, QPointF to);
-    /// Four lines.
+    /// The outline of the rectangle.
     void frame(const QRectF& place);
     void circle(QPointF centre, double radius);
 
@@ -62,8 +62,8 @@ public:
     void clipTo(const QRectF& place);
     void clipToSheet();
 
-    /// What is drawn next comes on a new sheet. Without anything drawn there is none. A picture shows the
-    /// first sheet only.
+    /// The next drawing begins a new sheet; without one there is no new sheet. A picture shows the first
+    /// sheet only.
     void newPage();
     /// Ends the document; nothing is drawn any more.
     void endDoc();
@@ -85,7 +85,7 @@ using PageDrawing = std::function<void(Page&)>;
 /// The sheet with its long side across.
 QSizeF landscape(QSizeF sheet);
 
-/// The usual sheet of this country, upright, in points: A4 or Letter.
+/// The default sheet of the system's country, upright, in points: A4 or Letter.
 QSizeF usualSheet();
 
 /// The drawing as the bytes of a PDF file. Raises what the drawing raises.

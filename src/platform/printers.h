@@ -7,10 +7,10 @@
 /// Lists the printers in advance, so that the first printerNames() need not wait.
 void askForPrintersEarly();
 
-/// They wait two seconds at most, then there are no printers.
+/// Each waits two seconds at most; without an answer by then the result is empty.
 QStringList printerNames();
 QString defaultPrinterName();
 
-/// As in Desktop::Paper.
+/// See Desktop::Paper for both.
 PrinterAnswer askPrinter(const QString& printer);
 bool printOn(const QString& printer, const QString& title, const QByteArray& pdf);

@@ -1,10 +1,10 @@
-// The desktop's choosers of files and folders, as children get them: they choose and change nothing.
+// Dialogs for choosing files and folders in which nothing can be deleted, renamed, moved or made.
 #pragma once
 
 #include <QString>
 
 class QFileDialog;
 
-/// Shows the dialog, in which nothing can be deleted, renamed, moved or made, and waits until it is closed.
-/// What was chosen, empty when it was cancelled.
+/// Makes the dialog such a chooser, shows it and waits until it is closed. Returns the chosen path, empty
+/// when it was cancelled.
 QString chosenIn(QFileDialog& dialog);

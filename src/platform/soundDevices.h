@@ -16,7 +16,7 @@ void stop();
 QByteArray takeRecording();
 SoundProgress progress();
 
-/// Call this last before the program ends, as leaveSound() of platform/wavePlayer.h, which it calls.
+/// Call this last before the program ends. It calls leaveSound() of platform/wavePlayer.h.
 void leave();
 
 } // namespace soundDevices

@@ -13,8 +13,8 @@
 
 class QAudioSource;
 
-/// Records one sound in 16 bits and mono: at 22,050 samples a second where the device can, else at its own
-/// rate. What comes in while it is paused is left out.
+/// Records one sound in 16 bits and mono: at 22,050 samples a second if the device supports that, otherwise
+/// at its own rate. Samples that arrive while it is paused are discarded.
 class WaveRecorder : public QObject {
     Q_OBJECT
 public:
@@ -34,11 +34,11 @@ public:
 
     /// What has been recorded since start().
     const Wave& recorded() const { return wave; }
-    /// The same, and forgets it.
+    /// Returns the recording and clears it.
     Wave take();
-    /// Milliseconds of it.
+    /// The length of the recording in milliseconds.
     qint64 duration() const;
-    /// How loud the last tenth of a second was, on the scale of the ear: 0 for silence, 1 for the loudest.
+    /// The loudness of the last tenth of a second on a logarithmic scale: 0 for silence, 1 for the loudest.
     double level() const;
 
 private:
@@ -53,7 +53,7 @@ private:
     Wave wave;
     std::unique_ptr<Inlet> inlet;
     QByteArray deviceId;
-    QTimer watch;           // looks now and then whether the device is still there
-    bool delivered = false; // since it looked last
+    QTimer watch;           // checks regularly that the device is still there
+    bool delivered = false; // whether data arrived since the last check
     std::unique_ptr<QAudioSource> source;
 };

@@ -7,7 +7,7 @@ void loadMainSettings();
 
 /// Each reads one option again and applies it: whether the remaining cards are scattered after a deletion,
 /// whether the refresh and the clues are offered, whether the card editor is locked. The last one reads a key
-/// of its own, which is never written, so that the lock is off until the program is started again.
+/// of its own, option::lockDatabaseNow, which the program never writes.
 void rereadDeleteOption();
 void rereadRefreshOption();
 void rereadClueOption();
