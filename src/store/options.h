@@ -1,6 +1,6 @@
 // The options of the installation, each once: where it stands in the settings file, what it is without a
-// value there, what it means. Every read goes to the file, which programs on other workstations may change; only a value
-// that could not be written is taken from memory.
+// value there, what it means. Every read goes to the file, which programs on other workstations may change;
+// only a value that could not be written is taken from memory.
 #pragma once
 
 #include <QList>
