@@ -41,6 +41,7 @@ void openWith(const QString& name, const QByteArray& bytes)
     resetFieldTable();
     desktop.sound.beep = [] {};
     desktop.boxes.showMessage = [](MessageIcon, const QString&, const QString&) {};
+    desktop.files.programFolder = desktop.files.ownFolder = fuzzFolder;
     desktop.now = [] { return QDateTime({2026, 3, 9}, {10, 30}); };
     QDir(fuzzFolder() + u"/.kept"_s).removeRecursively();
     QFile file(fuzzFolder() + u'/' + name);
