@@ -65,6 +65,8 @@ int printerToSelect(const QStringList& printers)
 {
     int index = -1;
     ignoringErrors({[&] { index = toInteger(leadingNumber(read(option::printer))); }});
+    if (printers.isEmpty())
+        return 0;
     if (index < 0 || index >= printers.size())
         index = int(printers.indexOf(desktop.paper.defaultPrinterName()));
     return std::max(index, 0);
@@ -193,23 +195,20 @@ void FrmPrint::markChosen()
 
 void FrmPrint::loadPrinters()
 {
-    PrinterList& list = session.paper.Printercombo;
-    list.names = desktop.paper.printerNames();
-    list.listIndex = printerToSelect(list.names);
+    offered = desktop.paper.printerNames();
     Printercombo->clear();
-    Printercombo->addItems(list.names);
+    Printercombo->addItems(offered);
     Printercombo->addItem(u"Save as PDF"_s);
-    Printercombo->setCurrentIndex(list.listIndex);
+    Printercombo->setCurrentIndex(session.paper.saveAsPdf ? int(offered.size()) : printerToSelect(offered));
 }
 
-/// "Save as PDF" isn't stored: the class's printer stays the one that is offered next time.
+/// "Save as PDF" isn't stored: after the next start the class's printer is offered again.
 void FrmPrint::confirm()
 {
-    PrinterList& list = session.paper.Printercombo;
     const int index = Printercombo->currentIndex();
-    session.paper.saveAsPdf = index >= list.names.size();
+    session.paper.saveAsPdf = index >= offered.size();
     if (!session.paper.saveAsPdf) {
-        list.listIndex = index;
+        session.paper.Printercombo = {offered, index};
         write(option::printer, QString::number(index));
     }
     answerAndUnload<FrmPrint>(u"OK"_s);

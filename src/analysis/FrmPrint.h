@@ -47,5 +47,6 @@ private:
     void loadPrinters();
     void confirm();
 
+    QStringList offered; // the printers in the list
     const std::array<Choice, 3> choices;
 };

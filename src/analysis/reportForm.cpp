@@ -123,6 +123,7 @@ reportForm::reportForm()
     column->addLayout(answerRow(answers, video));
     chainTabs({repTab->tabBar(), design, fieldCombo, insertBut, RepBox, PrintCommand, copyBut, RTF1, BtnSave,
                BtnPrt, BtnCopy1, answers->ok, answers->cancel, video});
+    repTab->tabBar()->installEventFilter(this);
     design->setFocus();
     connectControls();
 }
@@ -188,9 +189,16 @@ void reportForm::load()
     TxtDate = shortDateText(desktop.now().date());
     disableIfChosen(option::jotterView, BtnPrt);
     disableIfChosen(option::jotterSave, BtnSave);
-    RTF1->setReadOnly(!BtnSave->isEnabled());
+    lockNotes(!BtnSave->isEnabled());
     disableIfChosen(option::jotterCopy, BtnCopy1);
     disableIfChosen(option::reportPrint, PrintCommand);
+}
+
+void reportForm::lockNotes(bool locked)
+{
+    RTF1->setReadOnly(locked);
+    if (locked) // the caret stays, for the keyboard and screen readers
+        RTF1->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
 }
 
 void reportForm::offerFieldNames()
@@ -201,13 +209,14 @@ void reportForm::offerFieldNames()
     fieldCombo->setCurrentRow(0);
 }
 
-/// Return in the list of fields inserts one, instead of pressing the dialog's OK.
+/// Return in the list of fields inserts one, on a tab it does nothing, instead of pressing the dialog's OK.
 bool reportForm::eventFilter(QObject* watched, QEvent* event)
 {
     const int key = event->type() == QEvent::KeyPress ? static_cast<QKeyEvent*>(event)->key() : 0;
     if (key != Qt::Key_Return && key != Qt::Key_Enter)
         return AnswerDialog::eventFilter(watched, event);
-    insertBut->click();
+    if (watched == fieldCombo)
+        insertBut->click();
     return true;
 }
 

@@ -16,6 +16,8 @@ public:
 
     /// Offers the names of the open database's fields.
     void offerFieldNames();
+    /// Locks the text of the jotter against changes, or unlocks it.
+    void lockNotes(bool locked);
 
     QTabWidget* const repTab;
 

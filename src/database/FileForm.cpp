@@ -137,7 +137,10 @@ QWidget* FileForm::iconRow()
         icon->setIconSize(QSize(iconSide, iconSide));
         icon->setCheckable(true);
         icon->installEventFilter(this);
-        onClick(icon, [this, slot] { select(slot); });
+        onToggle(icon, [this, slot](bool checked) { // also by assistive technology, which gives no click
+            if (checked != isChosen(slot))
+                select(slot);
+        });
         auto* name = element(new QLabel, "fileNameBox", slot);
         name->setTextFormat(Qt::PlainText);
         name->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
@@ -291,6 +294,11 @@ void FileForm::startElsewhere(int error)
     showWaiting();
 }
 
+bool FileForm::isChosen(int slot) const
+{
+    return !chosenPath.isEmpty() && walk.item(slot).path == chosenPath;
+}
+
 /// A database or file becomes the chosen one, which is highlighted and which OK opens. A folder or drive
 /// can't be chosen: after a click on one the chosen item stays highlighted.
 void FileForm::select(int slot)
@@ -301,9 +309,9 @@ void FileForm::select(int slot)
         chosenPath = item.path;
     }
     for (int other = 0; other < FolderWalk::slotCount; ++other) {
-        const bool chosen = !chosenPath.isEmpty() && walk.item(other).path == chosenPath;
+        const bool chosen = isChosen(other);
         iconBox[other]->setChecked(chosen);
-        if (chosen && item.certain)
+        if (chosen && item.certain && !answers->isAncestorOf(focusWidget()))
             iconBox[other]->setFocus(); // its frame would make a clicked folder look chosen
     }
     wishedPath = item.path;

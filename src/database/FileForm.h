@@ -67,6 +67,7 @@ private:
     void placeRefused(int error);
     void startElsewhere(int error);
 
+    bool isChosen(int slot) const;
     void select(int slot);
     void openSlot(int slot);
     void moveAlong(int slot, int step);

@@ -146,8 +146,15 @@ void SoundCover::connectButtons()
     });
     for (QPushButton* pause : {BtnPauseRec, BtnPause})
         pause->setCheckable(true);
-    onClick(BtnPauseRec, [this] { togglePause(recording, recordingPaused); });
-    onClick(BtnPause, [this] { togglePause(playing, playingPaused); });
+    // Not at a click: assistive technology toggles a button without one.
+    onToggle(BtnPauseRec, [this](bool pressed) {
+        if (pressed != (desktop.sound.progress().activity == recordingPaused))
+            togglePause(recording, recordingPaused);
+    });
+    onToggle(BtnPause, [this](bool pressed) {
+        if (pressed != (desktop.sound.progress().activity == playingPaused))
+            togglePause(playing, playingPaused);
+    });
     connect(watch, &QTimer::timeout, this, [this] { guarded([this] { showProgress(); }); });
 }
 
@@ -185,7 +192,12 @@ void SoundCover::chooseFile()
 {
     const QString file =
         desktop.files.chooseFile(u"Add Sound"_s, desktop.files.documentsFolder(), u"Sound Files (*.wav)"_s);
-    if (file.isEmpty() || !addSound(file))
+    if (file.isEmpty())
+        return;
+    const bool added = addSound(file);
+    lastStatus = added ? QString() : u"This sound can't be used."_s;
+    showProgress();
+    if (!added)
         return;
     soundBut->setEnabled(true);
     BtnDelSnd->setEnabled(true);

@@ -383,13 +383,19 @@ void TeacherOps::showPrinters(const PrinterList& printers)
     const QSignalBlocker quiet(Printercombo); // a filled list chooses its first line by itself
     printerNames = printers.names;
     Printercombo->clear();
+    if (printers.names
+            .isEmpty()) { // or the printing system doesn't answer: OK writes the printer as it was read
+        Printercombo->setEnabled(false);
+        lblPrinters->setText(u"There is no printer on this computer."_s);
+        return;
+    }
     Printercombo->addItems(printers.names);
     Printercombo->setPlaceholderText(printers.names.value(printers.listIndex));
     const int index = printerIndexIn(values.printerIndex, printers.names.size());
     Printercombo->setCurrentIndex(index);
     takePrinter(index);
-    Printercombo->setEnabled(!printers.names.isEmpty());
-    lblPrinters->setText(printers.names.isEmpty() ? u"There is no printer on this computer."_s : QString());
+    Printercombo->setEnabled(true);
+    lblPrinters->clear();
 }
 
 /// A chosen printer is the program's current one at once, also when Cancel follows.

@@ -7,6 +7,7 @@
 #include <QBoxLayout>
 #include <QButtonGroup>
 #include <QEvent>
+#include <QSignalBlocker>
 #include <QStyle>
 #include <QToolButton>
 
@@ -56,7 +57,9 @@ SwatchRow::SwatchRow(const char* group, const QString& meaning)
         button->installEventFilter(this);
         buttons->addButton(button, number);
         row->addWidget(button);
-        onClick(button, [this, number] {
+        onToggle(button, [this, number](bool chosen) { // assistive technology toggles without a click
+            if (!chosen)
+                return;
             const QString value = QLatin1StringView(swatches()[number].value);
             showColour(value);
             picked(value);
@@ -70,8 +73,10 @@ void SwatchRow::showColour(const QString& value)
 {
     const QString name = colourName(value);
     buttons->setExclusive(false); // a colour of none of them marks none
-    for (QAbstractButton* button : buttons->buttons())
+    for (QAbstractButton* button : buttons->buttons()) {
+        const QSignalBlocker quiet(button); // showing a colour doesn't choose it
         button->setChecked(button->text() == name);
+    }
     buttons->setExclusive(true);
     present->setText(u"Now: "_s + name);
 }

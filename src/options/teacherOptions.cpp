@@ -181,8 +181,10 @@ void setCaseSensitivity(const QString& word)
 
 void choosePrinter(const QString& name, const QStringList& printers)
 {
-    if (printers.contains(name))
-        session.paper.Printercombo = {printers, int(printers.indexOf(name))};
+    if (!printers.contains(name))
+        return;
+    session.paper.Printercombo = {printers, int(printers.indexOf(name))};
+    session.paper.saveAsPdf = false;
 }
 
 int printerIndexIn(const QString& stored, qsizetype count)

@@ -12,6 +12,7 @@
 #include <chrono>
 #include <future>
 #include <memory>
+#include <mutex>
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
@@ -83,6 +84,8 @@ Printers listPrinters()
             list.standard = name;
     }
     cupsFreeDests(count, all);
+    if (list.standard.isEmpty()) // no default is set: the one that the print dialog shows first
+        list.standard = list.names.value(0);
     return list;
 }
 
@@ -116,8 +119,9 @@ PrinterAnswer askCups(const QString& name)
     return {true, usualPaper(cups.get(), printer.get())};
 }
 
-/// The whole job, or none: one that could not be handed over completely is cancelled.
-bool sendToCups(const QString& name, const QString& title, const QByteArray& pdf)
+/// The whole job, or none: one that could not be handed over completely, or in time, is cancelled.
+bool sendToCups(const QString& name, const QString& title, const QByteArray& pdf,
+                const Errands::Forgotten& forgotten)
 {
     const Connection cups = connectToCups();
     if (!cups)
@@ -135,7 +139,7 @@ bool sendToCups(const QString& name, const QString& title, const QByteArray& pdf
     const bool sent =
         cupsStartDocument(cups.get(), to.name, job, words.constData(), CUPS_FORMAT_PDF, 1) == HTTP_CONTINUE &&
         cupsWriteRequestData(cups.get(), pdf.constData(), std::size_t(pdf.size())) == HTTP_CONTINUE &&
-        cupsFinishDocument(cups.get(), to.name) <= IPP_OK_CONFLICT;
+        !forgotten && cupsFinishDocument(cups.get(), to.name) <= IPP_OK_CONFLICT;
     if (!sent)
         cupsCancelJob2(cups.get(), to.name, job, 1);
     return sent;
@@ -148,21 +152,27 @@ bool sendToCups(const QString& name, const QString& title, const QByteArray& pdf
 template <class Work>
 auto answerWithin(std::chrono::milliseconds limit, Work work)
 {
-    std::invoke_result_t<Work> answer{};
+    std::invoke_result_t<Work, const Errands::Forgotten&> answer{};
     Errands errands;
     QEventLoop waiting;
-    errands.send([work](const Errands::Forgotten&) { return work(); },
-                 [&](const auto& result) {
-                     answer = result;
-                     waiting.quit();
-                 });
+    errands.send(work, [&](const auto& result) {
+        answer = result;
+        waiting.quit();
+    });
     QTimer::singleShot(limit, &waiting, &QEventLoop::quit);
     waiting.exec(QEventLoop::ExcludeUserInputEvents);
     return answer;
 }
 
 std::future<Printers> early; // what askForPrintersEarly() asked for
+std::mutex latestLock;       // the teacher's options ask on another thread
 Printers latest;
+
+Printers latestAnswer()
+{
+    const std::lock_guard held(latestLock);
+    return latest;
+}
 
 } // namespace
 
@@ -182,27 +192,33 @@ void askForPrintersEarly()
 
 QStringList printerNames()
 {
+    Printers now = latestAnswer();
     if (!early.valid())
-        latest = answerWithin(patience, listPrinters);
+        now = answerWithin(patience, [](const Errands::Forgotten&) { return listPrinters(); });
     else if (early.wait_for(patience) == std::future_status::ready)
-        latest = early.get();
-    early = {};
-    return latest.names;
+        now = early.get();
+    if (early.valid())
+        early = {};
+    const std::lock_guard held(latestLock);
+    latest = now;
+    return now.names;
 }
 
 QString defaultPrinterName()
 {
-    if (latest.standard.isEmpty())
+    if (latestAnswer().standard.isEmpty())
         printerNames();
-    return latest.standard;
+    return latestAnswer().standard;
 }
 
 PrinterAnswer askPrinter(const QString& printer)
 {
-    return answerWithin(patience, [printer] { return askCups(printer); });
+    return answerWithin(patience, [printer](const Errands::Forgotten&) { return askCups(printer); });
 }
 
 bool printOn(const QString& printer, const QString& title, const QByteArray& pdf)
 {
-    return answerWithin(sendingPatience, [=] { return sendToCups(printer, title, pdf); });
+    return answerWithin(sendingPatience, [=](const Errands::Forgotten& forgotten) {
+        return sendToCups(printer, title, pdf, forgotten);
+    });
 }

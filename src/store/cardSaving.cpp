@@ -116,8 +116,8 @@ Writing soundWriting(int card, const QByteArray& waveFile)
     const FileState now = stateToReplace(path);
     Writing sound{path, waveFile};
     sound.needed = now.error || now.bytes != waveFile;
-    sound.othersLost = now.error == 0 && now != knownState(path);
-    sound.keptFirst = sound.othersLost || (now.error == 0 && now.bytes.size() <= mostKeptBytes);
+    sound.keptFirst = now.error == 0 && now.bytes.size() <= mostKeptBytes;
+    sound.othersLost = sound.keptFirst && now != knownState(path);
     return sound;
 }
 
@@ -125,7 +125,11 @@ void keepBefore(std::initializer_list<const Writing*> writings)
 {
     QStringList paths;
     for (const Writing* writing : writings) {
-        if (writing->needed && writing->keptFirst)
+        if (!writing->needed || !writing->keptFirst)
+            continue;
+        if (writing->path.endsWith(soundEnding))
+            keepVersions({writing->path}); // a large one is within the limit only alone
+        else
             paths.append(writing->path);
     }
     keepVersions(paths);
@@ -173,6 +177,7 @@ void saveCardPicture(int card)
 
 void writeCardSound(int card, const QByteArray& waveFile)
 {
+    const FolderLock lock(session.dbPath);
     const Writing sound = soundWriting(card, waveFile);
     keepBefore({&sound});
     write(sound);

@@ -5,6 +5,7 @@
 #include "platform/errors.h"
 #include "platform/folderLock.h"
 #include "platform/pictureFile.h"
+#include "platform/stretching.h"
 #include "platform/textFile.h"
 #include "platform/wholeFile.h"
 #include "store/fileStates.h"
@@ -168,6 +169,8 @@ QImage readBackground(const QString& name)
     // Cards lie on places of a map, so it keeps its pixels on every screen; only one larger than any screen
     // is shrunk.
     const QSize needed(3840, 2400);
-    return readPicture(QDir::isRelativePath(name) ? filePathIn(session.dbPath, name) : cleanPath(name),
-                       needed);
+    const QImage picture =
+        readPicture(QDir::isRelativePath(name) ? filePathIn(session.dbPath, name) : cleanPath(name), needed);
+    const QSize covering = picture.size().scaled(needed, Qt::KeepAspectRatioByExpanding);
+    return covering.width() < picture.width() ? stretched(picture, covering) : picture;
 }

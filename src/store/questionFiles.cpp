@@ -1,6 +1,7 @@
 #include "store/questionFiles.h"
 
 #include "core/session.h"
+#include "platform/errors.h"
 #include "platform/textFile.h"
 #include "platform/wholeFile.h"
 #include "store/fileStates.h"
@@ -13,6 +14,8 @@
 using namespace Qt::StringLiterals;
 
 namespace {
+
+constexpr qint64 largestNotes = 16 << 20; // bytes
 
 constexpr char headingOfCopy[] = "====================\r\n"
                                  "Tallymoor Jotter\r\n"
@@ -42,7 +45,7 @@ std::optional<QString> readQuestions()
 {
     if (session.dbPath.isEmpty() || !QFileInfo::exists(notesPath()))
         return std::nullopt;
-    return decodeText(readWholeFile(notesPath(), largestTextFile));
+    return decodeText(readWholeFile(notesPath(), largestNotes));
 }
 
 QString openQuestions()
@@ -50,7 +53,7 @@ QString openQuestions()
     const QString path = notesPath();
     QString notes;
     ignoringErrors({
-        [&] { notes = decodeText(readAndRemember(path, largestTextFile)); },
+        [&] { notes = decodeText(readAndRemember(path, largestNotes)); },
         [&] {
             if (knownState(path).error == fileNotFound)
                 replaceAndRemember(path, {});
@@ -64,6 +67,8 @@ bool saveQuestions(const QString& notes)
     const QString path = notesPath();
     const FileState left = knownState(path);
     const QByteArray bytes = encodeText(notes + u"\r\n"_s);
+    if (bytes.size() > largestNotes)
+        throw RuntimeError(outOfMemory); // they could not be read again
     const bool othersKept = replaceKeepingOthers(path, bytes, left);
     replaceKeepingOthers(copyPath(), copyOf(bytes), {0, copyOf(left.bytes)});
     return othersKept;

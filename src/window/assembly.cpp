@@ -74,9 +74,10 @@ void allowInReport(const char* control, bool allowed)
 {
     if (!isLoaded<reportForm>())
         return;
-    auto* part = form<reportForm>().findChild<QWidget*>(QLatin1StringView(control));
-    if (auto* text = qobject_cast<QPlainTextEdit*>(part))
-        text->setReadOnly(!allowed);
+    auto& report = form<reportForm>();
+    auto* part = report.findChild<QWidget*>(QLatin1StringView(control));
+    if (part == static_cast<QWidget*>(report.RTF1))
+        report.lockNotes(!allowed);
     else if (part)
         part->setEnabled(allowed);
 }

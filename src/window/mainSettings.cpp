@@ -18,7 +18,7 @@ void choosePrinter()
 {
     PrinterList& list = session.paper.Printercombo;
     list.names = desktop.paper.printerNames();
-    list.listIndex = int(list.names.indexOf(desktop.paper.defaultPrinterName()));
+    list.listIndex = list.names.isEmpty() ? -1 : int(list.names.indexOf(desktop.paper.defaultPrinterName()));
     const int index = toInteger(leadingNumber(read(option::printer)));
     if (index < -1 || index >= list.names.size())
         throw RuntimeError(invalidProperty);
