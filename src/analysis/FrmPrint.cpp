@@ -108,7 +108,7 @@ FrmPrint::FrmPrint()
     column->addWidget(Option4, 0, Qt::AlignLeft);
     column->addLayout(printerRow());
     column->addStretch(1);
-    column->addWidget(answers, 0, Qt::AlignLeft);
+    column->addLayout(answerRow(answers));
     connectControls();
 }
 

@@ -163,9 +163,9 @@ QLayout* TeacherOps::lowestRow()
 {
     lblKept->setProperty("role", u"explanation"_s);
     auto* row = new QHBoxLayout;
-    row->addWidget(answers);
-    row->addSpacing(12);
     row->addWidget(lblKept, 1);
+    row->addSpacing(12);
+    row->addWidget(answers);
     return row;
 }
 

@@ -133,11 +133,13 @@ def by_keys(tour, voice):
     voice.close(None, 0.8)
 
 
-def cancelled_at_every_moment(_, voice):
+def cancelled_at_every_moment(tour, voice):
     """By assistive technology."""
     voice.by_reader = True
     for then in ((), ("Pause Recording",), ("Stop Recording",), ("Play",), ("Play", "Pause "), ("Play", "Stop")):
         voice.record(0.2, *then)
+        if then and then[-1].startswith("Pause"):
+            tour.find("label", "Paused")
         voice.close("Cancel")
     voice.by_reader = False
 
