@@ -1,6 +1,7 @@
 // The teacher's options, from the click to the settings file and to what the program does with them.
 #include "options/TeacherOps.h"
 
+#include "analysis/reportForm.h"
 #include "controls/dropDown.h"
 #include "controls/forms.h"
 #include "core/mainView.h"
@@ -18,6 +19,7 @@
 #include <QCheckBox>
 #include <QDir>
 #include <QLineEdit>
+#include <QPlainTextEdit>
 #include <QRadioButton>
 #include <QTabBar>
 #include <QTest>
@@ -50,6 +52,17 @@ bool redCaptions() { return session.options.ColText == u"255"_s; }
 bool greenFrame() { return session.board.borderColour == u"65280"_s; }
 bool cluesShown() { return !form<Form1>().cmdQuestion->isHidden(); }
 bool lockRemembered() { return session.options.txtDBLock == u"1"_s; }
+
+const reportForm& report()
+{
+    session.dbPath = testFolder().chopped(1);
+    return form<reportForm>();
+}
+
+bool notesHidden() { return !report().BtnPrt->isEnabled(); }
+bool notesLocked() { return !report().BtnSave->isEnabled() && report().RTF1->isReadOnly(); }
+bool notesNotCopied() { return !report().BtnCopy1->isEnabled(); }
+bool reportNotPrinted() { return !report().PrintCommand->isEnabled(); }
 
 bool cardLocked()
 {
@@ -101,6 +114,10 @@ TEST_F(TeachersOptions, ActWhereAndWhenTheyShould)
     };
     const Case cases[] = {
         {"ChkUp", upDisabled, true, true},
+        {"ChkT1", notesHidden, true, true},
+        {"ChkT2", notesLocked, true, true},
+        {"ChkT3", notesNotCopied, true, true},
+        {"ChkPRpt", reportNotPrinted, true, true},
         {"ChkRefresh", refreshHidden, true, true},
         {"ChkSnd", soundOffered, true, true},
         {"ChkDBRO", readOnlyDisabled, true, true},
@@ -124,6 +141,7 @@ TEST_F(TeachersOptions, ActWhereAndWhenTheyShould)
         unload<FileForm>();
         unload<editCard>();
         unload<DesignForm>();
+        unload<reportForm>();
         EXPECT_EQ(effect(), atOnce) << control;
         begin();
         EXPECT_EQ(effect(), afterRestart) << control << " after a restart";
