@@ -101,7 +101,7 @@ TEST_F(ChoosingADatabase, OKWaitsForADatabaseAndAMissingDiscIsTold)
                   EXPECT_EQ(files.SelectedFnameBox->text(), u"zoo"_s);
                   QTest::mouseClick(icon(files, "folder", "class 1"), Qt::LeftButton);
                   EXPECT_TRUE(files.iconBox[2]->isChecked() && !files.iconBox[0]->isChecked());
-                  EXPECT_TRUE(files.iconBox[2]->hasFocus());
+                  EXPECT_EQ(files.focusWidget(), files.iconBox[2]);
                   press(files, "OKbut");
                   EXPECT_FALSE(files.isVisible());
               }),

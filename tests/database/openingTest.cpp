@@ -78,6 +78,7 @@ TEST_F(Opening, TellsThatTheLastDatabaseIsGoneAndOpensNothing)
     const QString gone = inTestFolder(u"gone"_s);
     remember(gone);
     openLastDatabase();
+    EXPECT_TRUE(session.window.btnCards.pressed);
     EXPECT_THAT(recorded.messages,
                 testing::ElementsAre(u"Error|Unable to open Database. It may be corrupt or removed."_s));
     EXPECT_EQ(session.dbPath, gone);
