@@ -3,17 +3,22 @@
 
 #include "controls/fittedLabel.h"
 #include "controls/forms.h"
+#include "core/mainView.h"
 #include "core/title.h"
 #include "editing/DesignForm.h"
 #include "editing/newCommand.h"
+#include "guidance/tutorial.h"
 #include "store/settings.h"
 #include "support/dialogs.h"
 #include "support/files.h"
 
+#include <QAction>
 #include <QDir>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMenu>
 #include <QRadioButton>
+#include <QToolButton>
 
 using namespace Qt::StringLiterals;
 
@@ -54,9 +59,15 @@ protected:
     }
 };
 
-TEST_F(NewDatabase, NeedsANameAndKeepsItOnTheWayBack)
+TEST_F(NewDatabase, HelpsThenNeedsANameAndKeepsItOnTheWayBack)
 {
+    mainView.watchTutorial = watchTutorial;
     wizard([](NewForm& dialog) {
+        for (QAction* help : dialog.BtnVid->menu()->actions())
+            help->trigger();
+        QCoreApplication::processEvents();
+        EXPECT_EQ(recorded.started,
+                  QStringList({inTestFolder(u"Help/Newdb.pdf"_s), inTestFolder(u"Videos/Newdb.exe /shc"_s)}));
         goToLocation(dialog, QString());
         EXPECT_EQ(recorded.messages, QStringList(u"Error|You must enter a name for your database."_s));
         EXPECT_EQ(recorded.beeps, 1);

@@ -59,9 +59,11 @@ TEST_F(RealDesktop, ChoosersChangeNothing)
 {
     const QString pets = testFolder() + u"Pets"_s;
     ASSERT_TRUE(QDir().mkdir(pets));
-    const auto tryToDelete = [&pets] {
+    int seen = 0;
+    const auto tryToDelete = [&pets, &seen] {
         auto* chooser = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
         ASSERT_TRUE(chooser);
+        ++seen;
         EXPECT_TRUE(chooser->testOption(QFileDialog::ReadOnly));
         chooser->selectFile(pets);
         auto* list = chooser->findChild<QListView*>(u"listView"_s);
@@ -81,6 +83,7 @@ TEST_F(RealDesktop, ChoosersChangeNothing)
         QTimer::singleShot(0, qApp, tryToDelete);
         choose();
     }
+    EXPECT_EQ(seen, 3);
     EXPECT_TRUE(QDir(pets).exists());
 }
 
