@@ -63,7 +63,7 @@ TEST_F(NewDatabase, HelpsThenNeedsANameAndKeepsItOnTheWayBack)
 {
     mainView.watchTutorial = watchTutorial;
     wizard([](NewForm& dialog) {
-        for (QAction* help : dialog.BtnVid->menu()->actions())
+        for (QAction* help : part<QToolButton>(dialog, "BtnVid").menu()->actions())
             help->trigger();
         QCoreApplication::processEvents();
         EXPECT_EQ(recorded.started,

@@ -16,6 +16,7 @@ protected:
         for (int heading = 1; heading <= 3; ++heading)
             session.menu.MenuTop[heading].enabled = false;
         session.window.btnCards.enabled = false;
+        session.window.btnTable.pressed = true;
     }
 
     static QString lastDatabase() { return readSetting(settingsFile(), u"Last DB"_s, u"Path"_s, u"none"_s); }
@@ -78,7 +79,7 @@ TEST_F(Opening, TellsThatTheLastDatabaseIsGoneAndOpensNothing)
     const QString gone = inTestFolder(u"gone"_s);
     remember(gone);
     openLastDatabase();
-    EXPECT_TRUE(session.window.btnCards.pressed);
+    EXPECT_TRUE(session.window.btnCards.pressed && !session.window.btnTable.pressed);
     EXPECT_THAT(recorded.messages,
                 testing::ElementsAre(u"Error|Unable to open Database. It may be corrupt or removed."_s));
     EXPECT_EQ(session.dbPath, gone);
