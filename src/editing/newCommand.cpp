@@ -22,6 +22,8 @@ void newCommand()
 
 void closeDatabase()
 {
+    session.run.stopped = true; // a run in progress would move the cards of the next database
+    mainView.unloadSpeedWindow();
     deleteAnswers();
     mainView.closeClues();
     session.design.ChkRD = false;
