@@ -9,6 +9,7 @@
 #include <QCoreApplication>
 #include <QGuiApplication>
 #include <QPointer>
+#include <QScopeGuard>
 #include <QTimer>
 
 using namespace Qt::StringLiterals;
@@ -41,9 +42,11 @@ void tick()
 {
     if (QGuiApplication::modalWindow())
         return;
-    session.inRefresh = true;
-    const bool read = readFolder();
-    session.inRefresh = false;
+    const bool read = [] {
+        session.inRefresh = true;
+        const auto over = qScopeGuard([] { session.inRefresh = false; });
+        return readFolder();
+    }();
     if (!read)
         turn(false);
 }

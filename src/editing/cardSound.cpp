@@ -32,7 +32,7 @@ QByteArray readWaveFile(const QString& path)
 
 void rememberCardSound()
 {
-    ignoringErrors({[] { readAndRemember(soundPath(), largestFile); }});
+    ignoringErrors({[] { readAndRemember(soundPath(), mostKeptBytes); }});
 }
 
 bool addSound(const QString& file)

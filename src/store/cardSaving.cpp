@@ -113,6 +113,8 @@ Writing pictureWriting(int card)
 Writing soundWriting(int card, const QByteArray& waveFile)
 {
     const QString path = cardSoundPath(card);
+    if (QFileInfo(path).size() > mostKeptBytes)
+        return {path, waveFile}; // too large to be compared or kept
     const FileState now = stateToReplace(path);
     Writing sound{path, waveFile};
     sound.needed = now.error || now.bytes != waveFile;

@@ -2,6 +2,7 @@
 
 #include "core/session.h"
 #include "platform/errors.h"
+#include "platform/folderLock.h"
 #include "platform/textFile.h"
 #include "platform/wholeFile.h"
 #include "store/fileStates.h"
@@ -64,6 +65,7 @@ QString openQuestions()
 
 bool saveQuestions(const QString& notes)
 {
+    const FolderLock lock(session.dbPath);
     const QString path = notesPath();
     const FileState left = knownState(path);
     const QByteArray bytes = encodeText(notes + u"\r\n"_s);

@@ -164,7 +164,8 @@ void Form1::whenToggled(QAbstractButton* button, const ControlState& state,
     connect(button, &QAbstractButton::toggled, this, [this, &state, action](bool checked) {
         if (checked == state.pressed)
             return;
-        guarded(action);
+        if (!QGuiApplication::modalWindow()) // assistive technology reaches the button, a mouse wouldn't
+            guarded(action);
         showControls();
     });
 }

@@ -89,5 +89,7 @@ void startUp()
     window.setGeometry(restored);
     window.showMaximized();
     waitUntilOnScreen(window);
+    if (!isLoaded<Form1>())
+        return; // closed meanwhile
     showModal(form<frmNewDoc>());
 }
