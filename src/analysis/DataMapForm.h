@@ -11,6 +11,8 @@ class QLabel;
 class QLineEdit;
 class WizardPages;
 
+class QVBoxLayout;
+
 class DataMapForm : public AnswerDialog {
     Q_OBJECT
 public:

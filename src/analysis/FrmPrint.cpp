@@ -12,6 +12,7 @@
 #include "store/options.h"
 
 #include <QBoxLayout>
+#include <QEvent>
 #include <QGridLayout>
 #include <QRadioButton>
 #include <QStyle>
