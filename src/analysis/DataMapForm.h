@@ -9,9 +9,8 @@
 class QComboBox;
 class QLabel;
 class QLineEdit;
-class WizardPages;
-
 class QVBoxLayout;
+class WizardPages;
 
 class DataMapForm : public AnswerDialog {
     Q_OBJECT
