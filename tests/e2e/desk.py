@@ -7,6 +7,7 @@ import array
 import math
 import os
 import pathlib
+import re
 import shutil
 import subprocess
 import tempfile
@@ -18,6 +19,15 @@ PATIENCE = 30  # seconds until a wait counts as failed; a loaded machine may nee
 
 class Failed(Exception):
     """Something that the tour needs did not appear or did not work."""
+
+
+def starved():
+    """Seconds since the machine's start in which a process waited for a processor; 0 where the system doesn't count."""
+    pressure = pathlib.Path("/proc/pressure/cpu")
+    try:
+        return int(re.search(r"some .*total=(\d+)", pressure.read_text())[1]) / 1e6
+    except (OSError, TypeError):
+        return 0
 
 
 def wait_until(condition, what, timeout=PATIENCE):

@@ -14,15 +14,17 @@ Places and distances are in the program's own pixels, which assistive technology
 them takes up more than one pixel of the screen."""
 
 import argparse
+import contextlib
 import os
 import pathlib
 import re
 import shutil
 import subprocess
 import sys
+import time
 
 import reader
-from desk import PATIENCE, SCREENS, Desk, Ear, Failed, wait_until
+from desk import PATIENCE, SCREENS, Desk, Ear, Failed, starved, wait_until
 
 HOUSE = pathlib.Path(__file__).resolve().parents[2]
 sys.path.insert(0, str(HOUSE / "scripts"))
@@ -137,6 +139,14 @@ class Tour:
             except reader.Gone:
                 return None
         return wait_until(asked, what, timeout)
+
+    @contextlib.contextmanager
+    def within(self, seconds, what):
+        """For a with statement: its body takes no longer. Time in which the machine was too busy doesn't count."""
+        begun, waited = time.monotonic(), starved()
+        yield
+        took = time.monotonic() - begun - (starved() - waited)
+        self.check(took < seconds, f"{what} took {took:.2f} s")
 
     def check(self, holds, what):
         if not holds:

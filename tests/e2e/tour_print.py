@@ -5,7 +5,6 @@ jobs and vanishes, and its server with it: each time a box says so and nothing i
 
 import re
 import sys
-import time
 
 sys.dont_write_bytecode = True
 from driver import Tour  # noqa: E402
@@ -191,16 +190,13 @@ def faults(tour, shop):
         jobs = shop.job_numbers()
         dialog = ask_for(tour, "Print Screen")
         shop.close() if breaks is None else tour.desk.run(*breaks)
-        begun = time.monotonic()
-        tour.click(tour.find("push button", "OK", within=dialog))
-        tour.find("label", "Make sure your printer is ready !", within=tour.dialog("Printer Problem"))
-        waited = time.monotonic() - begun
-        print(f"{what}: {waited:.2f} s until the box")
+        with tour.within(2, f"{what}: the box"):
+            tour.click(tour.find("push button", "OK", within=dialog))
+            tour.find("label", "Make sure your printer is ready !", within=tour.dialog("Printer Problem"))
         tour.answer("Printer Problem", "OK")
         tour.click(tour.find("push button", "File"))
         tour.find("push button", "Print...", within=tour.find("frame", "File"))
         tour.click(tour.find("push button", "File"))
-        tour.check(waited < 10, f"{what}: the box came after {waited:.1f} s")
         if breaks is None:
             shop.open()
         elif mends:
