@@ -25,9 +25,15 @@ constexpr int tileGap = 10;
 
 } // namespace
 
+void abandonRun()
+{
+    session.run.stopped = true;
+    mainView.unloadSpeedWindow();
+}
+
 void openFolder(const QString& folder)
 {
-    session.run.stopped = true; // a run in progress would move the new cards to the old ones' places
+    abandonRun();
     mainView.closeClues();
     session.dbPath = folder;
     updateTitle();

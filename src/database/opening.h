@@ -3,6 +3,10 @@
 
 #include <QString>
 
+/// Stops a run of cards without a message and closes its speed window, since it would go on with the cards of
+/// the next database.
+void abandonRun();
+
 /// Makes the folder the open database: loads it, lays its cards out in a block, enables menus and buttons and
 /// saves it as the last database. Errors of loading are raised.
 void openFolder(const QString& folder);

@@ -7,6 +7,7 @@
 #include "core/session.h"
 #include "core/title.h"
 #include "database/NewForm.h"
+#include "database/opening.h"
 #include "editing/DesignForm.h"
 #include "editing/designCommand.h"
 #include "store/paths.h"
@@ -22,8 +23,7 @@ void newCommand()
 
 void closeDatabase()
 {
-    session.run.stopped = true; // a run in progress would move the cards of the next database
-    mainView.unloadSpeedWindow();
+    abandonRun();
     deleteAnswers();
     mainView.closeClues();
     session.design.ChkRD = false;

@@ -13,6 +13,7 @@
 #include "core/session.h"
 #include "core/title.h"
 #include "database/loading.h"
+#include "database/opening.h"
 #include "platform/desktop.h"
 #include "platform/errors.h"
 #include "platform/picture.h"
@@ -144,7 +145,7 @@ void Form1::connectControls()
     whenToggled(btnTable, session.window.btnTable, [this] { changeMode(*btnTable); });
     whenToggled(refreshCheck, session.window.refreshCheck,
                 [this] { mainView.setRefresh(refreshCheck->isChecked() ? u"On"_s : u"Off"_s); });
-    onClick(cmdQuestion, [] { mainView.showClues(); });
+    onClickLater(cmdQuestion, [] { mainView.showClues(); });
     onClickLater(cmdCopyGraph, [] { // by then the graph, or the program, may have gone
         if (isLoaded<Form1>() && session.window.MSChart.visible)
             copyGraph();
@@ -274,8 +275,7 @@ bool Form1::eventFilter(QObject* watched, QEvent* event)
         return false;
     guarded([] {
         mainView.setRefresh(u"Off"_s);
-        session.run.stopped = true; // the cards stay where they are
-        mainView.unloadSpeedWindow();
+        abandonRun(); // the cards stay where they are
         mainView.openTeacherOptions();
     });
     return true;

@@ -17,6 +17,8 @@
 #include "tools/toolCommands.h"
 #include "window/shutDown.h"
 
+#include <QGuiApplication>
+
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
@@ -87,8 +89,9 @@ bool lineIsEnabled(int line)
 
 void dispatchLine(int line)
 {
-    if (!session.menu.MenuHolder.visible)
-        return; // assistive technology has pressed the line twice, and the first press has closed the menu
+    // Assistive technology presses a line twice, or one under a dialog.
+    if (!session.menu.MenuHolder.visible || QGuiApplication::modalWindow())
+        return;
     mainView.setRefresh(u"Off"_s);
     session.menu.pullDownBut.visible = false;
     session.menu.AnswerHolder.visible = false;

@@ -6,6 +6,7 @@
 #include "platform/picture.h"
 #include "window/dispatch.h"
 
+#include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
@@ -70,7 +71,10 @@ void MenuBar::makeHeadings()
         heading->setShortcut(QKeySequence(int(Qt::ALT) | text.front().unicode()));
         heading->setFocusPolicy(Qt::TabFocus);
         heading->installEventFilter(this);
-        onClick(heading, [menu] { clickHeading(menu); });
+        onClick(heading, [menu] {
+            if (!QGuiApplication::modalWindow()) // assistive technology reaches it, a mouse wouldn't
+                clickHeading(menu);
+        });
         MenuTop[menu] = heading;
     }
     ShadowLeft = named(new QFrame(this), "ShadowLeft");

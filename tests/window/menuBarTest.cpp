@@ -4,6 +4,7 @@
 #include "core/session.h"
 #include "support/freshStart.h"
 
+#include <QDialog>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -118,6 +119,21 @@ TEST_F(MenuBarOnWindow, AClickAnywhereOnALineRunsItsCommandUnlessItIsGrey)
     click(bar.MenuTop[1]);
     QTest::mouseClick(window.windowHandle(), Qt::RightButton, {}, middleOf(bar.menuCaption[1]));
     EXPECT_FALSE(session.board.BigBin.visible);
+}
+
+TEST_F(MenuBarOnWindow, AssistiveTechnologyReachesNothingUnderADialog)
+{
+    QDialog dialog;
+    for (const bool lineIsOpen : {false, true}) {
+        if (lineIsOpen)
+            bar.MenuTop[1]->click();
+        dialog.open();
+        (lineIsOpen ? bar.menuCaption[1] : bar.MenuTop[1])->click();
+        QCoreApplication::processEvents();
+        EXPECT_EQ(bar.MenuHolder->isVisible(), lineIsOpen);
+        EXPECT_FALSE(session.board.BigBin.visible);
+        dialog.hide();
+    }
 }
 
 TEST_F(MenuBarOnWindow, SlidesAlongTheBarButNotToAGreyHeading)
