@@ -1,10 +1,10 @@
 #include "window/startUp.h"
 
+#include "controls/application.h"
 #include "controls/dialogFocus.h"
 #include "controls/forms.h"
 #include "controls/returnInLists.h"
 #include "platform/desktop.h"
-#include "platform/picture.h"
 #include "platform/printers.h"
 #include "platform/realDesktop.h"
 #include "platform/soundDevices.h"
@@ -12,33 +12,17 @@
 #include "window/Form1.h"
 #include "window/FrmStlogo.h"
 #include "window/assembly.h"
-#include "window/displayScale.h"
 #include "window/frmNewDoc.h"
 #include "window/shutDown.h"
 #include "window/startValues.h"
 
 #include <QApplication>
-#include <QFile>
-#include <QIcon>
-#include <QScreen>
 #include <QTimer>
 #include <QWindow>
 
 using namespace Qt::StringLiterals;
 
 namespace {
-
-void dressApplication()
-{
-    QApplication::setApplicationName(u"tallymoor"_s);
-    QApplication::setWindowIcon(QIcon(picturePath(u"tallymoor"_s)));
-    QApplication::setStyle(u"Fusion"_s);
-    QFile sheet(u":/tallymoor.qss"_s);
-    if (sheet.open(QIODevice::ReadOnly))
-        qApp->setStyleSheet(QString::fromUtf8(sheet.readAll()));
-    keepReturnInLists();
-    keepFocusInDialogs();
-}
 
 /// On Wayland a dialog belongs to the main window, and gets the keyboard, only when that is on the screen
 /// already.
@@ -53,20 +37,17 @@ void waitUntilOnScreen(const QWidget& window)
 
 } // namespace
 
-double scaleOfProgram()
+QString chosenScale()
 {
     installDesktop();
-    QList<QSize> sizes; // none where the desktop scales by itself
-    if (!qEnvironmentVariableIsSet("QT_SCALE_FACTOR") && qApp->devicePixelRatio() == 1) {
-        for (const QScreen* screen : QGuiApplication::screens())
-            sizes.append(screen->size());
-    }
-    return displayScale(sizes, read(option::displayScale));
+    return read(option::displayScale);
 }
 
 int runTallymoor()
 {
     dressApplication();
+    keepReturnInLists();
+    keepFocusInDialogs();
     installDesktop();
     askForPrintersEarly();
     QApplication::setQuitOnLastWindowClosed(false); // shutDown() ends the program, in order

@@ -1,9 +1,10 @@
 // Starting the program.
 #pragma once
 
-/// The factor by which the program enlarges itself, 1 where the desktop already scales. Qt applies it when
-/// the next QApplication is made, so the present one must then be replaced.
-double scaleOfProgram();
+#include <QString>
+
+/// The teacher's setting of the program's size. Needs the QApplication.
+QString chosenScale();
 
 /// Runs the program to its end and returns its exit code. Needs the QApplication.
 int runTallymoor();

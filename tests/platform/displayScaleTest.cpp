@@ -1,4 +1,4 @@
-#include "window/displayScale.h"
+#include "platform/displayScale.h"
 
 #include <gtest/gtest.h>
 
