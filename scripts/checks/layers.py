@@ -9,7 +9,7 @@ FLOORS = [
     ["platform"],
     ["core"],
     ["store", "controls"],
-    ["board"],
+    ["board", "player"],
     ["database"],
     ["choices"],
     ["tools", "editing", "analysis", "paint", "options", "guidance"],

@@ -1,0 +1,214 @@
+#include "player/lessonPage.h"
+
+#include "controls/balloon.h"
+#include "controls/dialogParts.h"
+#include "platform/errors.h"
+#include "platform/picture.h"
+
+#include <QAccessible>
+#include <QHBoxLayout>
+#include <QIcon>
+#include <QKeyEvent>
+#include <QShortcut>
+#include <QStyle>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int frameTime = 16;       // ms
+constexpr double mostAtOnce = 0.25; // seconds: a machine that was busy doesn't jump over what is shown
+constexpr int captionHeight = 84;   // two lines
+
+/// A button for mouse and Tab. A click leaves the focus with the caption, so that the keys keep their
+/// meaning.
+QPushButton* control(const char* name, const char* picture, const QString& meaning, const QString& key)
+{
+    auto* button = named(iconButton(QLatin1String(picture), meaning, meaning + u" ("_s + key + u')'), name);
+    button->setFocusPolicy(Qt::TabFocus);
+    return button;
+}
+
+void tell(QWidget* widget, QAccessible::Event news)
+{
+    QAccessibleEvent event(widget, news);
+    QAccessible::updateAccessibility(&event);
+}
+
+} // namespace
+
+LessonPage::LessonPage(const Lesson& played, const std::function<void()>& whenClosed,
+                       const std::function<void(const QString&)>& whenFailed)
+    : stage(named(new Stage, "stage"))
+    , caption(named(new FittedLabel, "caption"))
+    , progress(named(words({}), "progress"))
+    , back(control("back", "sceneBack", u"Back"_s, u"Left arrow"_s))
+    , turn(control("turn", "pause", u"Pause"_s, u"Space"_s))
+    , on(control("on", "sceneOn", u"Next"_s, u"Right arrow"_s))
+    , close(control("close", "no0", u"Close"_s, u"Esc"_s))
+    , again(named(new QPushButton(QIcon(picturePath(u"playAgain"_s)), u"Play again"_s), "again"))
+    , playback(played)
+    , lesson(played)
+    , failed(whenFailed)
+    , film(played)
+{
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(10, 10, 10, 8);
+    column->setSpacing(10);
+    column->addWidget(stage, 1);
+    column->addLayout(strip());
+    again->setParent(this);
+    again->setFocusPolicy(Qt::TabFocus);
+    again->hide();
+    chainTabs({caption, again, back, turn, on, close});
+    connectControls(whenClosed);
+    frames.setInterval(frameTime);
+    frames.setTimerType(Qt::PreciseTimer);
+}
+
+QLayout* LessonPage::strip()
+{
+    auto* buttons = new QHBoxLayout;
+    for (QPushButton* button : {back, turn, on})
+        buttons->addWidget(button);
+    auto* left = new QVBoxLayout;
+    left->setSpacing(2);
+    left->addLayout(buttons);
+    left->addWidget(progress, 0, Qt::AlignHCenter);
+    caption->setFixedHeight(captionHeight);
+    caption->setFocusPolicy(Qt::StrongFocus);
+    auto* row = new QHBoxLayout;
+    row->setSpacing(14);
+    row->addLayout(left);
+    row->addWidget(caption, 1);
+    row->addWidget(close, 0, Qt::AlignVCenter);
+    return row;
+}
+
+void LessonPage::connectControls(const std::function<void()>& whenClosed)
+{
+    const auto turnIt = [this] { act([this] { playback.turn(); }); };
+    const auto stepBack = [this] { act([this] { playback.stepBack(); }); };
+    const auto stepOn = [this] { act([this] { playback.stepOn(); }); };
+    const auto playAgain = [this] { act([this] { playback.playAgain(); }); };
+    onClick(back, stepBack);
+    onClick(turn, turnIt);
+    onClick(on, stepOn);
+    onClick(again, playAgain);
+    onClick(close, whenClosed);
+    keyDoes(Qt::Key_Left, stepBack);
+    keyDoes(Qt::Key_Right, stepOn);
+    keyDoes(Qt::Key_Home, playAgain);
+    connect(&frames, &QTimer::timeout, this,
+            [this] { guarded([this] { advance(double(clock.restart()) / 1000); }); });
+}
+
+/// Before a focused button sees the key, which would move the focus.
+void LessonPage::keyDoes(int key, const std::function<void()>& handler)
+{
+    connect(new QShortcut(key, this), &QShortcut::activated, this, [handler] { guarded(handler); });
+}
+
+/// Space on a focused button has pressed that already.
+void LessonPage::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() != Qt::Key_Space)
+        QWidget::keyPressEvent(event);
+    else if (!event->isAutoRepeat())
+        guarded([this] { act([this] { playback.turn(); }); });
+}
+
+void LessonPage::begin()
+{
+    caption->setFocus();
+    clock.start();
+    frames.start();
+    act([this] { playback.playAgain(); });
+}
+
+void LessonPage::showStills()
+{
+    act([this] { playback.showStills(); });
+}
+
+void LessonPage::advance(double seconds)
+{
+    playback.advance(std::min(seconds, mostAtOnce));
+    refresh();
+}
+
+void LessonPage::act(const std::function<void()>& change)
+{
+    change();
+    refresh();
+    showState();
+}
+
+/// Shows the present moment.
+void LessonPage::refresh()
+{
+    const Moment moment = playback.shown();
+    try {
+        if (film.show(moment))
+            stage->show(film.screen());
+    } catch (const RuntimeError& error) {
+        frames.stop();
+        failed(error.description());
+        return;
+    }
+    stage->show(playback.pointer());
+    const QString text = lesson.scenes[moment.scene].caption;
+    if (caption->text() != text) {
+        caption->setText(text);
+        fitCaption();
+    }
+    progress->setText(u"Scene %1 of %2"_s.arg(moment.scene + 1).arg(lesson.scenes.size()));
+    if (playback.atEnd() == again->isHidden())
+        showState();
+}
+
+/// Whether it plays, for eye and ear.
+void LessonPage::showState()
+{
+    const bool ended = playback.atEnd();
+    const bool plays = !ended && !playback.isPaused();
+    const QString meaning = ended ? u"Play again"_s : plays ? u"Pause"_s : u"Play"_s;
+    turn->setIcon(QIcon(picturePath(ended ? u"playAgain"_s : plays ? u"pause"_s : u"resume"_s)));
+    if (turn->accessibleName() != meaning) {
+        turn->setAccessibleName(meaning);
+        giveHint(*turn, meaning + u" (Space)"_s);
+        caption->setAccessibleDescription(ended ? u"The end."_s : plays ? QString() : u"Paused."_s);
+        tell(caption, QAccessible::DescriptionChanged);
+    }
+    if (!ended && again->hasFocus())
+        caption->setFocus();
+    again->setVisible(ended);
+    on->setEnabled(!ended);
+    placeAgain();
+}
+
+void LessonPage::placeAgain()
+{
+    again->adjustSize();
+    const QPoint middle = stage->geometry().center();
+    again->move(middle.x() - again->width() / 2, stage->geometry().bottom() - again->height() - 24);
+    again->raise();
+}
+
+/// In the largest letters in which two lines are enough.
+void LessonPage::fitCaption()
+{
+    for (const char* letters : {"large", "middle", "small"}) {
+        caption->setProperty("letters", QLatin1String(letters));
+        caption->style()->polish(caption);
+        if (!caption->textInView().contains(QChar(0x2026)))
+            return;
+    }
+}
+
+void LessonPage::resizeEvent(QResizeEvent*)
+{
+    layout()->activate();
+    fitCaption();
+    placeAgain();
+}
