@@ -113,8 +113,9 @@ QSize LessonReader::sizeOf(const QString& file)
         reject(u"\"%1\" is no name of a picture in the lesson's folder."_s.arg(file.left(longestText)));
     if (!info.isFile())
         reject(u"the picture \"%1\" is missing."_s.arg(file));
-    const QSize size = QImageReader(info.filePath(), "png").size();
-    if (!size.isValid())
+    const QImageReader reader(info.filePath());
+    const QSize size = reader.size();
+    if (!size.isValid() || reader.format() != "png")
         reject(u"the picture \"%1\" is damaged."_s.arg(file));
     return *sizes.insert(file, size);
 }

@@ -5,7 +5,7 @@
 #include "platform/errors.h"
 #include "platform/picture.h"
 
-#include <QAccessible>
+#include <QApplication>
 #include <QHBoxLayout>
 #include <QIcon>
 #include <QKeyEvent>
@@ -18,7 +18,6 @@ namespace {
 
 constexpr int frameTime = 16;       // ms
 constexpr double mostAtOnce = 0.25; // seconds: a machine that was busy doesn't jump over what is shown
-constexpr int captionHeight = 84;   // two lines
 
 /// A button for mouse and Tab. A click leaves the focus with the caption, so that the keys keep their
 /// meaning.
@@ -29,18 +28,12 @@ QPushButton* control(const char* name, const char* picture, const QString& meani
     return button;
 }
 
-void tell(QWidget* widget, QAccessible::Event news)
-{
-    QAccessibleEvent event(widget, news);
-    QAccessible::updateAccessibility(&event);
-}
-
 } // namespace
 
 LessonPage::LessonPage(const Lesson& played, const std::function<void()>& whenClosed,
                        const std::function<void(const QString&)>& whenFailed)
     : stage(named(new Stage, "stage"))
-    , caption(named(new FittedLabel, "caption"))
+    , caption(new CaptionBox)
     , progress(named(words({}), "progress"))
     , back(control("back", "sceneBack", u"Back"_s, u"Left arrow"_s))
     , turn(control("turn", "pause", u"Pause"_s, u"Space"_s))
@@ -60,7 +53,7 @@ LessonPage::LessonPage(const Lesson& played, const std::function<void()>& whenCl
     again->setParent(this);
     again->setFocusPolicy(Qt::TabFocus);
     again->hide();
-    chainTabs({caption, again, back, turn, on, close});
+    chainTabs({caption->widget(0), caption->widget(1), again, back, turn, on, close});
     connectControls(whenClosed);
     frames.setInterval(frameTime);
     frames.setTimerType(Qt::PreciseTimer);
@@ -69,14 +62,13 @@ LessonPage::LessonPage(const Lesson& played, const std::function<void()>& whenCl
 QLayout* LessonPage::strip()
 {
     auto* buttons = new QHBoxLayout;
+    buttons->setSpacing(8);
     for (QPushButton* button : {back, turn, on})
         buttons->addWidget(button);
     auto* left = new QVBoxLayout;
     left->setSpacing(2);
     left->addLayout(buttons);
     left->addWidget(progress, 0, Qt::AlignHCenter);
-    caption->setFixedHeight(captionHeight);
-    caption->setFocusPolicy(Qt::StrongFocus);
     auto* row = new QHBoxLayout;
     row->setSpacing(14);
     row->addLayout(left);
@@ -120,7 +112,7 @@ void LessonPage::keyPressEvent(QKeyEvent* event)
 
 void LessonPage::begin()
 {
-    caption->setFocus();
+    caption->takeFocus();
     clock.start();
     frames.start();
     act([this] { playback.playAgain(); });
@@ -140,12 +132,12 @@ void LessonPage::advance(double seconds)
 void LessonPage::act(const std::function<void()>& change)
 {
     change();
-    refresh();
-    showState();
+    if (refresh())
+        showState();
 }
 
-/// Shows the present moment.
-void LessonPage::refresh()
+/// Shows the present moment. False when that failed.
+bool LessonPage::refresh()
 {
     const Moment moment = playback.shown();
     try {
@@ -154,17 +146,14 @@ void LessonPage::refresh()
     } catch (const RuntimeError& error) {
         frames.stop();
         failed(error.description());
-        return;
+        return false;
     }
     stage->show(playback.pointer());
-    const QString text = lesson.scenes[moment.scene].caption;
-    if (caption->text() != text) {
-        caption->setText(text);
-        fitCaption();
-    }
+    caption->show(lesson.scenes[moment.scene].caption, playback.isPaused() ? u"Paused."_s : QString());
     progress->setText(u"Scene %1 of %2"_s.arg(moment.scene + 1).arg(lesson.scenes.size()));
     if (playback.atEnd() == again->isHidden())
         showState();
+    return true;
 }
 
 /// Whether it plays, for eye and ear.
@@ -177,14 +166,15 @@ void LessonPage::showState()
     if (turn->accessibleName() != meaning) {
         turn->setAccessibleName(meaning);
         giveHint(*turn, meaning + u" (Space)"_s);
-        caption->setAccessibleDescription(ended ? u"The end."_s : plays ? QString() : u"Paused."_s);
-        tell(caption, QAccessible::DescriptionChanged);
     }
-    if (!ended && again->hasFocus())
-        caption->setFocus();
+    const bool focusMoves = caption->isAncestorOf(QApplication::focusWidget()) || again->hasFocus();
     again->setVisible(ended);
     on->setEnabled(!ended);
     placeAgain();
+    if (ended && focusMoves)
+        again->setFocus(); // which a screen reader says
+    else if (focusMoves)
+        caption->takeFocus();
 }
 
 void LessonPage::placeAgain()
@@ -195,20 +185,8 @@ void LessonPage::placeAgain()
     again->raise();
 }
 
-/// In the largest letters in which two lines are enough.
-void LessonPage::fitCaption()
-{
-    for (const char* letters : {"large", "middle", "small"}) {
-        caption->setProperty("letters", QLatin1String(letters));
-        caption->style()->polish(caption);
-        if (!caption->textInView().contains(QChar(0x2026)))
-            return;
-    }
-}
-
 void LessonPage::resizeEvent(QResizeEvent*)
 {
     layout()->activate();
-    fitCaption();
     placeAgain();
 }

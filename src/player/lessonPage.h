@@ -1,11 +1,12 @@
 // Plays a lesson: its screen above, controls, caption and progress below.
 #pragma once
 
-#include "controls/fittedLabel.h"
+#include "player/captionBox.h"
 #include "player/film.h"
 #include "player/stage.h"
 
 #include <QElapsedTimer>
+#include <QLabel>
 #include <QPushButton>
 #include <QTimer>
 #include <QWidget>
@@ -26,7 +27,7 @@ public:
     void advance(double seconds);
 
     Stage* stage;
-    FittedLabel* caption;
+    CaptionBox* caption;
     QLabel* progress;
     QPushButton* back;
     QPushButton* turn;
@@ -45,9 +46,8 @@ private:
     void connectControls(const std::function<void()>& whenClosed);
     void keyDoes(int key, const std::function<void()>& act);
     void act(const std::function<void()>& change);
-    void refresh();
+    bool refresh();
     void showState();
-    void fitCaption();
     void placeAgain();
 
     const Lesson& lesson;

@@ -19,8 +19,8 @@ const struct {
     const char* does;
 } keys[] = {
     {"Space", "stop for a moment, and go on"},
-    {"Left", "one step back"},
-    {"Right", "one step on"},
+    {"←", "one step back"},
+    {"→", "one step on"},
     {"Home", "start again"},
     {"Esc", "close"},
 };
@@ -43,7 +43,7 @@ QLayout* tableOfKeys()
     table->setColumnStretch(1, 1);
     for (const auto& [key, does] : keys) {
         const int row = table->rowCount();
-        table->addWidget(words(QLatin1String(key), "key"), row, 0, Qt::AlignRight);
+        table->addWidget(words(QString::fromUtf8(key), "key"), row, 0, Qt::AlignRight);
         table->addWidget(words(QLatin1String(does)), row, 1);
     }
     return table;
