@@ -44,10 +44,11 @@ def wait_until(condition, what, timeout=PATIENCE):
 
 class Desk:
     """The running desktop, X or Wayland, on a screen such as "1366x768". `folder` is private and removed with it;
-    `environment` is for programs started on it."""
+    `environment` is for programs started on it. `display_options` are further ones for Xvfb, with {} for the folder."""
 
-    def __init__(self, screen=SCREENS[0], wayland=False):
+    def __init__(self, screen=SCREENS[0], wayland=False, display_options=()):
         self._screen = screen
+        self._display_options = display_options
         self._wayland = wayland
         self.folder = pathlib.Path(tempfile.mkdtemp(prefix="tallymoor-tour-"))
         self._processes = []
@@ -78,7 +79,7 @@ class Desk:
 
     def _start_display(self):
         number = self._told_number("Xvfb", "-displayfd", "{}", "-screen", "0", f"{self._screen}x24", "-nolisten", "tcp",
-                                   "-noreset")
+                                   "-noreset", *(part.format(self.folder) for part in self._display_options))
         self.environment["DISPLAY"] = f":{number}"
         self.run("setxkbmap", "de")  # the one map on which "ä" and "€" can be typed
         if self._wayland:

@@ -37,6 +37,7 @@ class Tour:
 
     HARMLESS = re.compile(r"^$")  # what the program may print
     expected_ends = (0,)  # exit codes of copies that have ended
+    DISPLAY_OPTIONS = ()  # for the desk's Xvfb
 
     def __init__(self, name, wayland=False):
         options = argparse.ArgumentParser(description=f"The tour {name}.")
@@ -52,7 +53,7 @@ class Tour:
         self._source, self._samples = chosen.program.resolve(), chosen.samples.resolve()
 
     def __enter__(self):
-        self.desk = Desk(self._screen, self._wayland)
+        self.desk = Desk(self._screen, self._wayland, self.DISPLAY_OPTIONS)
         reader.connect(self.desk.environment)
         self.program = self.desk.folder / "Tallymoor"
         self.settings = Settings(self.program)
