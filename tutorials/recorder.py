@@ -47,7 +47,9 @@ LAST_LOOK = 1.5  # at the end of a scene
 WHOLE = (60, 120)  # a lesson
 
 LONGEST_CAPTION = 100
-MOST_FRAMES = 25
+FLIGHT = 12  # pictures at the start of a film, as it goes
+LAPSE = 12  # pictures of all the rest
+LAPSE_STEP = 0.2
 STILL = 0.3  # seconds of the machine without a change on the screen: a step is over
 PATIENCE = 4.0  # the longest wait for that; some steps change nothing, and a caret never stops blinking
 TILE = 24  # pixels: changes that are further apart become pictures of their own
@@ -276,17 +278,21 @@ class Lesson(Tour):
             self._show()
 
     @contextlib.contextmanager
-    def film(self, most=MOST_FRAMES):
-        """Shows what moves on the screen until the with statement ends: its first `most` states, then the last one."""
+    def film(self, flight=FLIGHT, lapse=LAPSE):
+        """Shows what moves on the screen until the with statement ends: its first states one by one, the rest in large
+        steps."""
         self._film = Film(self.camera, self._last)
         try:
             yield
         finally:
             frames = self._film.stop()
             self._film = None
-        for frame in frames[:most]:
+        rest = frames[flight:]
+        chosen = [(frame, STEP) for frame in frames[:flight]]
+        chosen += [(rest[len(rest) * i // lapse], LAPSE_STEP) for i in range(lapse if len(rest) > lapse else 0)]
+        for frame, step in chosen:
             self._show(frame)
-            self._at += STEP
+            self._at += step
         self.look()
 
     # The screen
@@ -360,11 +366,13 @@ class Lesson(Tour):
             self._show()
             self._at += then
 
-    def point(self, where):
+    def point(self, where, hover=False):
+        """Lets the pointer glide there. With `hover` the real mouse goes too, for a menu or a tool tip."""
         if self._scene:
             self._glide(self._on_screen(where))
-        super().point(where)
-        self.look()
+        if hover or not self._scene:
+            super().point(where)
+            self.look()
 
     def drag(self, where, by, button=1, steps=9):
         if not self._scene:

@@ -39,10 +39,30 @@ with Lesson("Oview", "An Overview on Tallymoor") as lesson:
         lesson.choose("Data", "Sort...")
         lesson.dialog("Sort Cards")
 
-    with lesson.scene("Sort by Life years, going up. Then press OK."):
-        lesson.pick(lesson.find("combo box", within=lesson.dialog("Sort Cards")), "Life years")
+    with lesson.scene("Sort by Life years, going up."):
+        sort = lesson.dialog("Sort Cards")
+        lesson.pick(lesson.find("combo box", within=sort), "Life years")
+        lesson.point(lesson.find("radio button", "Going Up", within=sort))
 
-    with lesson.scene("The cards fly to their places!"):
+    with lesson.scene("Press OK. Look, the cards fly! The tortoise lives longest."):
         with lesson.film():
             lesson.answer("Sort Cards", "OK")
+            lesson.wait_until(lambda: "Speed" in lesson.windows(), "the first flight")
             lesson.wait_until(lambda: "Speed" not in lesson.windows(), "the end of the sort", 120)
+        lesson.point(lesson.card("Tortoise"))
+
+    with lesson.scene("Tallymoor can count, too. Open the menu Data and choose Make Graph."):
+        lesson.choose("Data", "Make Graph...")
+        wizard = lesson.dialog("Make Graph")
+
+    with lesson.scene("We ask for the homes of the animals. Next, Next, OK!"):
+        lesson.click(lesson.find("page tab", "Graph", within=wizard))
+        lesson.pick(lesson.find("combo box", within=wizard), "Home")
+        print(wizard.outline())
+        lesson.click(lesson.find("push button", "Next >", within=wizard))
+        lesson.look()
+        print(wizard.outline())
+        lesson.click(lesson.find("push button", "Next >", within=wizard))
+        lesson.look()
+        print(wizard.outline())
+        lesson.answer("Make Graph", "OK")
