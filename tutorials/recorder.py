@@ -52,6 +52,7 @@ LAPSE = 12  # pictures of all the rest
 LAPSE_STEP = 0.2
 STILL = 0.3  # seconds of the machine without a change on the screen: a step is over
 PATIENCE = 4.0  # the longest wait for that; some steps change nothing, and a caret never stops blinking
+LONGEST_FLIGHTS = 180  # seconds of the machine
 TILE = 24  # pixels: changes that are further apart become pictures of their own
 PIECE = 256, 150  # pixels: larger changes are cut up
 COLOURS = 64  # of a piece
@@ -137,26 +138,40 @@ def pieces(before, after):
 
 
 class Film:
-    """Collects every new state of the screen while something moves."""
+    """Collects the states of the screen while something moves: the first ones as they come, and `lapse` to twice as
+    many of the rest, however long it takes."""
 
-    def __init__(self, camera, first):
-        self._camera, self._last = camera, first
-        self.frames = []
+    def __init__(self, camera, now, flight, lapse):
+        self._camera, self._last, self._flight, self._lapse = camera, now, flight, lapse
+        self.first, self.rest = [], []
+        self.seen = 0
         self._end = threading.Event()
         self._thread = threading.Thread(target=self._run, daemon=True)
         self._thread.start()
 
     def _run(self):
+        stride = 1
         while not self._end.wait(0.05):
             frame = self._camera.frame()
-            if ImageChops.difference(frame, self._last).getbbox():
-                self.frames.append(frame)
-                self._last = frame
+            if not ImageChops.difference(frame, self._last).getbbox():
+                continue
+            self._last = frame
+            self.seen += 1
+            if self.seen <= self._flight:
+                self.first.append(frame)
+            elif self._lapse and self.seen % stride == 0:
+                self.rest.append(frame)
+            if self._lapse and len(self.rest) >= 2 * self._lapse:
+                self.rest = self.rest[::2]
+                stride *= 2
 
     def stop(self):
+        """Ends the film. Gives its frames with the seconds that each of them is shown."""
         self._end.set()
         self._thread.join()
-        return self.frames
+        count = min(self._lapse, len(self.rest))
+        return [(frame, STEP) for frame in self.first] + [
+            (self.rest[len(self.rest) * i // count], LAPSE_STEP) for i in range(count)]
 
 
 class Lesson(Tour):
@@ -170,6 +185,7 @@ class Lesson(Tour):
         self._scenes = []
         self._scene = None
         self._film = None
+        self._patience = PATIENCE
         self._at = 0.0  # seconds since the scene began
         self._pointer = None
         self._last = None  # what the screen showed when it was looked at
@@ -281,25 +297,33 @@ class Lesson(Tour):
     def film(self, flight=FLIGHT, lapse=LAPSE):
         """Shows what moves on the screen until the with statement ends: its first states one by one, the rest in large
         steps."""
-        self._film = Film(self.camera, self._last)
+        self._film = Film(self.camera, self._last, flight, lapse)
         try:
             yield
         finally:
             frames = self._film.stop()
             self._film = None
-        rest = frames[flight:]
-        chosen = [(frame, STEP) for frame in frames[:flight]]
-        chosen += [(rest[len(rest) * i // lapse], LAPSE_STEP) for i in range(lapse if len(rest) > lapse else 0)]
-        for frame, step in chosen:
+        for frame, seconds in frames:
             self._show(frame)
-            self._at += step
+            self._at += seconds
         self.look()
+
+    def frames_filmed(self):
+        """How many states of the screen the running film has seen."""
+        return self._film.seen
+
+    @contextlib.contextmanager
+    def in_motion(self):
+        """In the with statement something moves all the time: no step waits until the screen stands still."""
+        self._patience = STEP
+        yield
+        self._patience = PATIENCE
 
     # The screen
 
     def _settle(self, before, still=STILL):
         """Waits until the screen has changed, if a frame `before` is given, and then stands still."""
-        end = time.monotonic() + PATIENCE
+        end = time.monotonic() + self._patience
         last, since = self.camera.frame(), time.monotonic()
         changed = before is None
         while time.monotonic() < end:
@@ -428,6 +452,23 @@ class Lesson(Tour):
         self.start()
         self.open_last()
         self.wait_until(lambda: self.all("list item", within=self.board()), "the cards")
+
+    def fill(self, window, name, text, clicks=1):
+        """Clicks a text box of a window and types. Two clicks select the word that is there, so that it goes."""
+        box = self.find("text", name, within=window)
+        self.click(box, times=clicks)
+        self.type(text)
+        self.wait_until(lambda: box.text == text, f'"{text}" in "{name}"')
+
+    def fly(self, dialog, result=None):
+        """Presses OK in the dialog of a tool and shows the flights to their end, or until a dialog brings the result."""
+        def ended():
+            titles = self.windows()
+            return result in titles if result else "Speed" not in titles
+        with self.film():
+            self.answer(dialog, "OK")
+            self.wait_until(lambda: "Speed" in self.windows(), "the first flight")
+            self.wait_until(ended, "the end of the flights", LONGEST_FLIGHTS)
 
     def pick(self, box, line):
         """Chooses a line of a drop-down list, which is open and at rest when the pointer gets there."""

@@ -45,24 +45,23 @@ with Lesson("Oview", "An Overview on Tallymoor") as lesson:
         lesson.point(lesson.find("radio button", "Going Up", within=sort))
 
     with lesson.scene("Press OK. Look, the cards fly! The tortoise lives longest."):
-        with lesson.film():
-            lesson.answer("Sort Cards", "OK")
-            lesson.wait_until(lambda: "Speed" in lesson.windows(), "the first flight")
-            lesson.wait_until(lambda: "Speed" not in lesson.windows(), "the end of the sort", 120)
+        lesson.fly("Sort Cards")
         lesson.point(lesson.card("Tortoise"))
 
     with lesson.scene("Tallymoor can count, too. Open the menu Data and choose Make Graph."):
         lesson.choose("Data", "Make Graph...")
         wizard = lesson.dialog("Make Graph")
 
-    with lesson.scene("We ask for the homes of the animals. Next, Next, OK!"):
-        lesson.click(lesson.find("page tab", "Graph", within=wizard))
+    with lesson.scene("Where do the animals live? Choose Home, and press Next two times."):
         lesson.pick(lesson.find("combo box", within=wizard), "Home")
-        print(wizard.outline())
-        lesson.click(lesson.find("push button", "Next >", within=wizard))
-        lesson.look()
-        print(wizard.outline())
-        lesson.click(lesson.find("push button", "Next >", within=wizard))
-        lesson.look()
-        print(wizard.outline())
+        for page in ("Bar Chart", "Title"):
+            lesson.click(lesson.find("push button", "Next >", within=wizard))
+            lesson.find("radio button" if page == "Bar Chart" else "text", page, within=wizard)
+
+    with lesson.scene("Give your graph a title, and press OK."):
+        lesson.fill(wizard, "Title", "Animal homes")
         lesson.answer("Make Graph", "OK")
+        lesson.find("list", "Animal homes")
+
+    with lesson.scene("One animal lives on the ice. Can you find it? Have fun!"):
+        lesson.pause(1)
