@@ -144,22 +144,21 @@ class Film:
     def __init__(self, camera, now, flight, lapse):
         self._camera, self._last, self._flight, self._lapse = camera, now, flight, lapse
         self.first, self.rest = [], []
-        self.seen = 0
         self._end = threading.Event()
         self._thread = threading.Thread(target=self._run, daemon=True)
         self._thread.start()
 
     def _run(self):
-        stride = 1
+        seen, stride = 0, 1
         while not self._end.wait(0.05):
             frame = self._camera.frame()
             if not ImageChops.difference(frame, self._last).getbbox():
                 continue
             self._last = frame
-            self.seen += 1
-            if self.seen <= self._flight:
+            seen += 1
+            if seen <= self._flight:
                 self.first.append(frame)
-            elif self._lapse and self.seen % stride == 0:
+            elif self._lapse and seen % stride == 0:
                 self.rest.append(frame)
             if self._lapse and len(self.rest) >= 2 * self._lapse:
                 self.rest = self.rest[::2]
@@ -308,9 +307,18 @@ class Lesson(Tour):
             self._at += seconds
         self.look()
 
-    def frames_filmed(self):
-        """How many states of the screen the running film has seen."""
-        return self._film.seen
+    def catch(self, part):
+        """Presses a part as soon as the running film has its first states, before the flights are over."""
+        self.wait_until(lambda: len(self._film.first) >= FLIGHT, "the first flights")
+        x, y = self._on_screen(part)
+        super()._click_screen(x, y)
+
+    def show_click(self, part):
+        """Shows a press of what has been pressed already, by `catch`."""
+        self._glide(self._on_screen(part))
+        self._at += AIM
+        self._note_pointer("left")
+        self._at += PRESS
 
     @contextlib.contextmanager
     def in_motion(self):

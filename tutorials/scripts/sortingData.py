@@ -24,17 +24,23 @@ with Lesson("Sorting Data", "Sorting Data") as lesson:
     with lesson.scene("Going Down puts the biggest number first."):
         lesson.click(lesson.find("radio button", "Going Down", within=sort))
 
-    with lesson.in_motion(), lesson.scene("Press OK, and the cards begin to fly."):
+    with lesson.scene("Press OK, and the cards begin to fly. This button stops them."):
         with lesson.film(lapse=0):
             lesson.answer("Sort Cards", "OK")
-            lesson.wait_until(lambda: "Speed" in lesson.windows(), "the first flight")
-            slider = lesson.find("slider", "Speed", within=lesson.dialog("Speed"))
-            lesson.wait_until(lambda: lesson.frames_filmed() > 10, "the first cards to fly")
+            speed = lesson.dialog("Speed")
+            pause = lesson.find("push button", "Pause", within=speed).centre
+            lesson.catch(pause)
+            resume = lesson.find("push button", "Carry on", within=speed)
+        lesson.show_click(pause)
 
-    with lesson.in_motion(), lesson.scene("Too slow? Drag the button towards the rabbit."):
+    with lesson.scene("Too slow? Drag the round button towards the rabbit."):
+        slider = lesson.find("slider", "Speed", within=speed)
         lesson.drag(slider, by=(100, 0))
-        lesson.check(slider.value == FAST, f"the speed is {slider.value}")
+        lesson.wait_until(lambda: slider.value == FAST, f"speed {FAST}")
+
+    with lesson.scene("Press the arrow, and the cards fly on, faster than before."):
         with lesson.film():
+            lesson.click(resume)
             lesson.wait_until(lambda: "Speed" not in lesson.windows(), "the end of the flights", 120)
 
     with lesson.scene("The elephant comes first. It weighs 5000 kg!"):

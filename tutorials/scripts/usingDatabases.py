@@ -24,8 +24,8 @@ with Lesson("Using Databases", "Using Databases") as lesson:
         lesson.window("8 Card")
         lesson.card("Guitar")
 
-    with lesson.scene("Each card is one instrument. The top line says how many there are."):
-        lesson.point((240, 14))
+    with lesson.scene("Each card is one instrument. The top line counts the cards: there are 8."):
+        lesson.point((250, 14))
 
     with lesson.scene("Press the right button on the trumpet, and you hear it."):
         lesson.right_click(lesson.card("Trumpet"))
@@ -36,7 +36,7 @@ with Lesson("Using Databases", "Using Databases") as lesson:
         title = next(title for title in lesson.windows() if title.startswith("Edit Card"))
         editor = lesson.dialog(title)
 
-    with lesson.scene("Our guitar has 12 strings. Click twice on the 6 and type 12."):
+    with lesson.scene("Our guitar has 12 strings. Click twice in the box Strings, and type 12."):
         lesson.fill(editor, "Strings", "12", clicks=2)
 
     with lesson.scene("OK keeps what you typed. Cancel leaves the card as it was."):
