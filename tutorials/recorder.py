@@ -87,9 +87,12 @@ class Camera:
         self._line = header[12]  # bytes
         self._start = header[0] + 12 * header[19]  # after the colour table
 
-    def frame(self):
+    def bytes(self):
+        """The screen as bytes, which are quick to compare."""
         self._file.seek(self._start)
-        data = self._file.read(self._line * self.size[1])
+        return self._file.read(self._line * self.size[1])
+
+    def picture(self, data):
         return Image.frombuffer("RGB", self.size, data, "raw", "BGRX", self._line, 1)
 
 
@@ -141,8 +144,9 @@ class Film:
     """Collects the states of the screen while something moves: the first ones as they come, and `lapse` to twice as
     many of the rest, however long it takes."""
 
-    def __init__(self, camera, now, flight, lapse):
-        self._camera, self._last, self._flight, self._lapse = camera, now, flight, lapse
+    def __init__(self, camera, flight, lapse):
+        self._camera, self._flight, self._lapse = camera, flight, lapse
+        self._last = camera.bytes()
         self.first, self.rest = [], []
         self._end = threading.Event()
         self._thread = threading.Thread(target=self._run, daemon=True)
@@ -151,8 +155,8 @@ class Film:
     def _run(self):
         seen, stride = 0, 1
         while not self._end.wait(0.05):
-            frame = self._camera.frame()
-            if not ImageChops.difference(frame, self._last).getbbox():
+            frame = self._camera.bytes()
+            if frame == self._last:
                 continue
             self._last = frame
             seen += 1
@@ -296,14 +300,14 @@ class Lesson(Tour):
     def film(self, flight=FLIGHT, lapse=LAPSE):
         """Shows what moves on the screen until the with statement ends: its first states one by one, the rest in large
         steps."""
-        self._film = Film(self.camera, self._last, flight, lapse)
+        self._film = Film(self.camera, flight, lapse)
         try:
             yield
         finally:
             frames = self._film.stop()
             self._film = None
-        for frame, seconds in frames:
-            self._show(frame)
+        for data, seconds in frames:
+            self._show(self.camera.picture(data))
             self._at += seconds
         self.look()
 
@@ -332,20 +336,20 @@ class Lesson(Tour):
     def _settle(self, before, still=STILL):
         """Waits until the screen has changed, if a frame `before` is given, and then stands still."""
         end = time.monotonic() + self._patience
-        last, since = self.camera.frame(), time.monotonic()
+        last, since = self.camera.bytes(), time.monotonic()
         changed = before is None
         while time.monotonic() < end:
             time.sleep(0.03)
-            frame = self.camera.frame()
-            if ImageChops.difference(frame, last).getbbox():
+            frame = self.camera.bytes()
+            if frame != last:
                 last, since = frame, time.monotonic()
-            changed = changed or ImageChops.difference(frame, before).getbbox() is not None
+            changed = changed or frame != before
             if changed and time.monotonic() - since >= still:
                 return
 
     def _show(self, frame=None):
         """Adds what has changed since the last picture to the scene."""
-        frame = frame or self.camera.frame()
+        frame = frame or self.camera.picture(self.camera.bytes())
         first = not self._scenes and not self._scene["pictures"]
         before = ImageChops.invert(frame) if first else self._last
         for box in pieces(before, frame):
@@ -384,7 +388,7 @@ class Lesson(Tour):
             return
         self._glide((x, y))
         self._at += AIM
-        before = self.camera.frame()
+        before = self.camera.bytes()
         super()._click_screen(x, y, button, times)
         for press in range(times):
             self._at += TWICE if press else 0
@@ -417,7 +421,7 @@ class Lesson(Tour):
         self.desk.run("xdotool", "mousemove", *map(str, self._pointer), "mousedown", str(button))
         self._note_pointer("drag")
         for step in range(1, steps + 1):
-            before = self.camera.frame()
+            before = self.camera.bytes()
             place = self._on_screen((x + by[0] * step // steps, y + by[1] * step // steps))
             self.desk.run("xdotool", "mousemove", *map(str, place))
             self._settle(before, 0.1)
@@ -426,7 +430,7 @@ class Lesson(Tour):
             self._note_pointer()
             self._show()
         self._at += AIM
-        before = self.camera.frame()
+        before = self.camera.bytes()
         self.desk.run("xdotool", "mouseup", str(button))
         self._note_pointer("drop")
         self._seen(before)
@@ -435,7 +439,7 @@ class Lesson(Tour):
 
     def key(self, *keys):
         for key in keys:
-            before = self.camera.frame()
+            before = self.camera.bytes()
             super().key(key)
             if self._scene:
                 self._at += PRESS
@@ -446,7 +450,7 @@ class Lesson(Tour):
             super().type(text)
             return
         for letter in text:
-            before = self.camera.frame()
+            before = self.camera.bytes()
             super().type(letter)
             self._at += LETTER
             self._seen(before, 0.1, 0)
