@@ -12,6 +12,7 @@ COLOUR, FLIES = 2, 8  # among the values of a monster
 def ask(row, field, value):
     finder = lesson.dialog("Find")
     lesson.pick(lesson.find("combo box", f"Field of condition {row}", within=finder), field)
+    lesson.pick(lesson.find("combo box", f"Comparison of condition {row}", within=finder), "is")
     lesson.fill(finder, f"Value of condition {row}", value)
 
 
@@ -28,12 +29,13 @@ with Lesson("Finding Cards", "Finding Cards") as lesson:
         lesson.choose("Card", "Find...")
         lesson.dialog("Find")
 
-    with lesson.scene("We want Colour is Green. Choose Colour, and type Green."):
+    with lesson.scene("Choose Colour, then the word is, and type Green."):
         ask(1, "Colour", "Green")
 
     with lesson.scene("Press OK. The green monsters fly to the top!"):
         lesson.fly("Find", result="Find Results")
 
+    lesson.find("label", f"Number of cards found: {len(green)}")
     with lesson.scene(f"{len(green)} monsters are green. Press OK to look at them."):
         lesson.answer("Find Results", "OK")
 
