@@ -133,7 +133,7 @@ def cancelled_at_every_moment(tour, voice):
     """By assistive technology."""
     voice.by_reader = True
     for then in ((), ("Pause Recording",), ("Stop Recording",), ("Play",), ("Play", "Pause "), ("Play", "Stop")):
-        voice.record(0.2, *then)
+        voice.record(4 if then[-1:] == ("Pause ",) else 0.2, *then)  # long enough to be still played at the pause
         if then and then[-1].startswith("Pause"):
             tour.find("label", "Paused")
         voice.close("Cancel")
