@@ -31,7 +31,8 @@ def draw_pointer(picture, place):
 
 
 def moments(lesson, stops=None):
-    """The scenes with what the screen shows at their ends; with `stops`, seconds from the start, at these."""
+    """The captions with what the screen shows at the ends of their scenes, and where the pointer is. With `stops`, seconds
+    from the start, at these."""
     story = json.loads((lesson / "lesson.json").read_text(encoding="utf-8"))
     screen, begun = Image.new("RGB", story["size"]), 0.0
     for scene in story["scenes"]:
@@ -45,20 +46,20 @@ def moments(lesson, stops=None):
                 shown += 1
             if stop in wanted:
                 wanted.remove(stop)
-                picture = screen.copy()
-                draw_pointer(picture, pointer_at(scene["pointer"], stop - begun))
-                yield scene["caption"], stop, picture
+                yield scene["caption"], stop, screen.copy(), pointer_at(scene["pointer"], stop - begun)
         begun = end
 
 
 def of(lesson, stops=None):
+    """The sheet as a picture."""
     shown = list(moments(lesson, stops))
     width = WIDTH if len(shown) > 1 else 1434
     columns = min(COLUMNS, len(shown))
     height = round(shown[0][2].height * width / shown[0][2].width) + ROOM
     sheet = Image.new("RGB", (columns * width, -(-len(shown) // columns) * height), PAPER)
     draw, font = ImageDraw.Draw(sheet), ImageFont.truetype(FONT, 17)
-    for i, (caption, moment, picture) in enumerate(shown):
+    for i, (caption, moment, picture, pointer) in enumerate(shown):
+        draw_pointer(picture, pointer)
         left, top = i % columns * width, i // columns * height
         sheet.paste(picture.resize((width - 6, height - ROOM), Image.Resampling.LANCZOS), (left, top))
         draw.multiline_text((left + 6, top + height - ROOM), "\n".join(textwrap.wrap(f"{moment:.0f} s  {caption}", 68)),

@@ -26,7 +26,7 @@ sys.dont_write_bytecode = True
 HOUSE = pathlib.Path(__file__).resolve().parents[1]
 sys.path.insert(0, str(HOUSE / "tests" / "e2e"))
 import contactSheet  # noqa: E402
-from PIL import Image, ImageChops  # noqa: E402
+from PIL import Image, ImageChops, ImageStat  # noqa: E402
 from desk import Failed  # noqa: E402
 from driver import Settings, Tour  # noqa: E402
 
@@ -56,6 +56,7 @@ LONGEST_FLIGHTS = 180  # seconds of the machine
 TILE = 24  # pixels: changes that are further apart become pictures of their own
 PIECE = 256, 150  # pixels: larger changes are cut up
 COLOURS = 64  # of a piece
+LARGEST_ERROR = 5  # of 255, by fewer colours
 
 # The same "random" places of cards each time a lesson is recorded.
 SAME_CHANCES = """
@@ -259,6 +260,7 @@ class Lesson(Tour):
         story = {"title": self._title, "size": list(self.camera.size), "scenes": self._scenes}
         text = json.dumps(story, ensure_ascii=False, indent=1)
         (self._folder / "lesson.json").write_text(text + "\n", encoding="utf-8")
+        self._check_pictures()
         target = LESSONS / self._name
         shutil.rmtree(target, ignore_errors=True)
         shutil.copytree(self._folder, target)
@@ -266,6 +268,12 @@ class Lesson(Tour):
         contactSheet.of(target).save(self.pictures / "sheet.png")
         size = sum(f.stat().st_size for f in target.iterdir())
         print(f"{self._name}: {whole:.0f} s, {len(self._scenes)} scenes, {len(self._files)} pictures, {size // 1024} KB")
+
+    def _check_pictures(self):
+        """The pictures, laid over each other by a player, show at the end what the screen showed."""
+        played = list(contactSheet.moments(self._folder))[-1][2]
+        error = max(ImageStat.Stat(ImageChops.difference(played, self._last)).rms)
+        self.check(error < LARGEST_ERROR, f"the pictures differ from the screen by {error:.1f}")
 
     # Scenes
 
