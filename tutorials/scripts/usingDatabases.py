@@ -41,6 +41,7 @@ with Lesson("Using Databases", "Using Databases") as lesson:
 
     with lesson.scene("OK keeps what you typed. Cancel leaves the card as it was."):
         lesson.point(lesson.find("push button", "Cancel", within=editor))
+        lesson.pause(0.8)
         lesson.answer(title, "OK")
 
     with lesson.scene("This button shows all the cards in a table."):
