@@ -10,6 +10,7 @@
 #include <QSysInfo>
 #include <QThread>
 
+#include <atomic>
 #include <cerrno>
 #include <csignal>
 #include <fcntl.h>
@@ -179,7 +180,7 @@ QString machineName()
 
 QString nameForNewFile()
 {
-    static int count = 0;
+    static std::atomic<int> count = 0; // files are written on several threads
     return leftoverPrefix + machineName() + u'~' + QString::number(::getpid()) + u'~' +
            QString::number(++count);
 }
@@ -189,7 +190,7 @@ class NewFile {
 public:
     explicit NewFile(const QString& folder, mode_t mode = 0666)
         : path(folder + u'/' + nameForNewFile())
-        , file(path, O_WRONLY | O_CREAT | O_EXCL, mode & 0666)
+        , file(path, O_WRONLY | O_CREAT | O_EXCL, mode & 0777)
     {
     }
     ~NewFile()
@@ -256,7 +257,7 @@ void overwriteInPlace(const QString& path, const QByteArray& bytes)
 int putNewFile(const QString& target, const QByteArray& bytes, const std::optional<FileRights>& rights,
                bool replaces)
 {
-    NewFile made(folderOf(target), rights ? rights->mode : 0666);
+    NewFile made(folderOf(target), rights ? rights->mode & 0666 : 0666);
     if (made.error())
         return made.error();
     const bool given = !rights || made.takeRights(*rights);
@@ -328,6 +329,18 @@ void replaceFile(const QString& path, const QByteArray& bytes, const QString& li
     if (old && folderRefuses)
         overwriteInPlace(target, bytes);
     else if (refusal)
+        raiseFor(refusal == ENOENT ? ENOTDIR : refusal);
+}
+
+void placeFile(const QString& path, const QByteArray& bytes, bool canBeRun)
+{
+    NewFile made(folderOf(path), canBeRun ? 0777 : 0666);
+    int refusal = made.error();
+    if (!refusal) {
+        made.fill(bytes);
+        refusal = made.takePlaceOf(path);
+    }
+    if (refusal)
         raiseFor(refusal == ENOENT ? ENOTDIR : refusal);
 }
 
