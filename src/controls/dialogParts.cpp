@@ -99,7 +99,12 @@ QPushButton* videoButton(const QString& tutorial)
     return button;
 }
 
+QString tutorialProgram(const QString& tutorial)
+{
+    return desktop.files.programFolder() + u"/Videos/"_s + tutorial + u".exe"_s;
+}
+
 void startTutorial(const QString& tutorial)
 {
-    desktop.programs.start(desktop.files.programFolder() + u"/Videos/"_s + tutorial + u".exe"_s, {u"/shc"_s});
+    desktop.programs.start(tutorialProgram(tutorial), {u"/shc"_s});
 }

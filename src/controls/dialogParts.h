@@ -57,5 +57,7 @@ QLayout* answerRow(QWidget* answers, QWidget* help = nullptr);
 /// "Watch a video": starts the tutorial of that name, ignoring any error.
 QPushButton* videoButton(const QString& tutorial = QStringLiteral("Entering Data"));
 
+/// The path of the program that plays the tutorial of that name.
+QString tutorialProgram(const QString& tutorial);
 /// Starts the tutorial of that name. Raises 53 when it can't be started.
 void startTutorial(const QString& tutorial);

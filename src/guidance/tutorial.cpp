@@ -14,8 +14,12 @@ void watchTutorial(const QString& tutorial)
         startTutorial(tutorial);
         started = true;
     }});
-    if (started)
-        return;
+    if (!started)
+        offerTutorials();
+}
+
+void offerTutorials()
+{
     desktop.sound.beep();
     if (desktop.boxes.ask(u"Confirm"_s, u"It appears you have not installed the Video Tutorials.\n"
                                         "Would you like to install them now?"_s))

@@ -3,5 +3,8 @@
 
 #include <QString>
 
-/// Starts the tutorial of that name. If it can't be started, asks whether to install the tutorials.
+/// Starts the tutorial of that name. If it can't be started, offers the tutorials.
 void watchTutorial(const QString& tutorial);
+
+/// Asks whether to install the tutorials, and does so on Yes.
+void offerTutorials();

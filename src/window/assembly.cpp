@@ -14,6 +14,7 @@
 #include "database/refresh.h"
 #include "editing/editCard.h"
 #include "editing/newCommand.h"
+#include "guidance/frmVids.h"
 #include "guidance/tutorial.h"
 #include "options/TeacherOps.h"
 #include "paint/picEdit.h"
@@ -91,6 +92,7 @@ void connectCommands()
     mainView.openCard = openCardEditor;
     mainView.openPictureEditor = openPictureEditor;
     mainView.watchTutorial = watchTutorial;
+    mainView.installTutorials = installTutorials;
     mainView.showClues = showClues;
     mainView.closeClues = unload<frmQuestion>;
     mainView.allowInReport = allowInReport;

@@ -10,6 +10,7 @@
 #include "editing/cardEntry.h"
 #include "editing/designCommand.h"
 #include "editing/newCommand.h"
+#include "guidance/helpCommand.h"
 #include "platform/desktop.h"
 #include "platform/errors.h"
 #include "store/questionFiles.h"
@@ -63,7 +64,7 @@ const MenuLine lines[] = {
     {u"Copy"_s, {}, asItWas, nothing},
     {u"Paste"_s, {}, asItWas, nothing},
     {u"Select All"_s, {}, asItWas, nothing},
-    {u"Help"_s, u"menuHelp"_s, 0, nullptr},
+    {u"Help"_s, u"menuHelp"_s, 0, helpCommand},
 };
 
 } // namespace
@@ -81,11 +82,7 @@ QString pictureOf(const QString& word)
     return line ? line->icon : QString();
 }
 
-bool lineIsEnabled(int line)
-{
-    const MenuLine* known = menuLine(session.menu.menuItemCaption[session.menu.openMenuIndex][line]);
-    return session.menu.menuCaption[line].enabled && (!known || known->command);
-}
+bool lineIsEnabled(int line) { return session.menu.menuCaption[line].enabled; }
 
 void dispatchLine(int line)
 {
@@ -112,6 +109,5 @@ void runCommand(const QString& word)
         return;
     if (line->graphOnScreen != asItWas)
         session.graph.graphOnScreen = qint16(line->graphOnScreen);
-    if (line->command)
-        line->command();
+    line->command();
 }

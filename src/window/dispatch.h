@@ -10,7 +10,7 @@ struct MenuLine {
     QString word;
     QString icon;      // name of its icon
     int graphOnScreen; // what session.graph.graphOnScreen becomes, or asItWas
-    void (*command)(); // null for a command that doesn't exist yet
+    void (*command)();
 };
 
 /// The entry for the word, null for an unknown one.
@@ -19,8 +19,7 @@ const MenuLine* menuLine(const QString& word);
 /// The name of the word's icon, empty when it has none.
 QString pictureOf(const QString& word);
 
-/// Whether a click on that line of the open menu runs its command: the menu allows it, and the command
-/// exists.
+/// Whether a click on that line of the open menu runs its command.
 bool lineIsEnabled(int line);
 
 /// Handles a click on a line of the open menu; does nothing while no menu is open.

@@ -55,17 +55,6 @@ TEST_F(Dispatch, EveryLineOfTheMenusIsKnownAndHasItsPicture)
     }
 }
 
-TEST_F(Dispatch, ALineIsGreyUntilItsCommandExists)
-{
-    for (int menu = 0; menu <= lastHeading; ++menu) {
-        openMenu(menu);
-        for (int line = 0; line <= session.menu.menuLastItem[menu]; ++line) {
-            const QString word = session.menu.menuItemCaption[menu][line];
-            EXPECT_EQ(lineIsEnabled(line), menuLine(word)->command != nullptr) << word.toStdString();
-        }
-    }
-}
-
 TEST_F(Dispatch, ASecondPressOfALineDoesNothing)
 {
     choose("Delete Card");

@@ -9,6 +9,8 @@
 #include "editing/designCommand.h"
 #include "editing/editCard.h"
 #include "editing/frmRemind.h"
+#include "guidance/FrmHelp.h"
+#include "guidance/frmVids.h"
 #include "options/TeacherOps.h"
 #include "paint/picEdit.h"
 #include "store/settings.h"
@@ -60,6 +62,8 @@ const struct {
     {"print", printCommand},
     {"data map", askIn<DataMapForm>},
     {"teacher options", openTeacherOptions},
+    {"help", askIn<FrmHelp>},
+    {"installing the tutorials", askIn<frmVids>},
 };
 
 /// Twelve fields with lists, long names, and all that settings can add.
