@@ -29,7 +29,7 @@ QString CaptionBox::textInView() const { return label().textInView(); }
 
 void CaptionBox::takeFocus() { label().setFocus(); }
 
-void CaptionBox::show(const QString& text, const QString& state)
+void CaptionBox::say(const QString& text, const QString& state)
 {
     if (text == this->text() && state == label().accessibleDescription())
         return;

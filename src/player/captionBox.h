@@ -15,7 +15,7 @@ public:
     CaptionBox();
 
     /// `state` is a remark for assistive technology, such as "Paused.".
-    void show(const QString& text, const QString& state = {});
+    void say(const QString& text, const QString& state = {});
     QString text() const;
     /// As it is displayed, with "…" where it doesn't fit.
     QString textInView() const;

@@ -1,8 +1,26 @@
 #include "player/film.h"
 
+#include "platform/errors.h"
 #include "platform/pictureFile.h"
 
+#include <QFileInfo>
 #include <QPainter>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QImage decoded(const QString& file)
+{
+    try {
+        return readPicture(file);
+    } catch (const RuntimeError& error) {
+        throw RuntimeError(error.number(), u"The picture \"%1\" can't be shown (%2)."_s.arg(
+                                               QFileInfo(file).fileName(), error.description()));
+    }
+}
+
+} // namespace
 
 Film::Film(const Lesson& shown)
     : lesson(shown)
@@ -26,7 +44,7 @@ bool Film::show(const Moment& moment)
     for (;;) {
         const std::vector<Patch>& pictures = lesson.scenes[scene].pictures;
         if (patches < pictures.size() && inTime(patches)) {
-            painter.drawImage(pictures[patches].place, readPicture(pictures[patches].file));
+            painter.drawImage(pictures[patches].place, decoded(pictures[patches].file));
             ++patches;
             changed = true;
         } else if (scene < moment.scene) {

@@ -34,6 +34,7 @@ public:
 
 private:
     [[noreturn]] void reject(const QString& why) const;
+    QByteArray bytes() const;
     QJsonObject objectOf(const QJsonValue& value, const char* what) const;
     QJsonArray arrayOf(const QJsonObject& from, const char* key, qsizetype least, qsizetype most) const;
     double number(const QJsonValue& value, const char* what, double least, double most) const;
@@ -46,14 +47,23 @@ private:
     QSize sizeOf(const QString& file);
 
     QString folder;
-    QString place = u"The lesson"_s;
+    QString place; // "Scene 3", empty outside of scenes
     QSize screen;
     QHash<QString, QSize> sizes; // of the pictures seen so far
 };
 
 void LessonReader::reject(const QString& why) const
 {
-    throw RuntimeError(invalidProperty, place + u": "_s + why);
+    throw RuntimeError(invalidProperty, place.isEmpty() ? why : place + u": "_s + why);
+}
+
+QByteArray LessonReader::bytes() const
+{
+    try {
+        return readWholeFile(folder + u"/lesson.json"_s, largestScript);
+    } catch (const RuntimeError& error) {
+        reject(u"lesson.json can't be read (%1)."_s.arg(error.description()));
+    }
 }
 
 QJsonObject LessonReader::objectOf(const QJsonValue& value, const char* what) const
@@ -170,8 +180,7 @@ Scene LessonReader::scene(const QJsonValue& value)
 
 Lesson LessonReader::read()
 {
-    const QByteArray bytes = readWholeFile(folder + u"/lesson.json"_s, largestScript);
-    const QJsonObject script = objectOf(QJsonDocument::fromJson(bytes).object(), "lesson.json");
+    const QJsonObject script = QJsonDocument::fromJson(bytes()).object();
     if (script.isEmpty())
         reject(u"lesson.json is damaged."_s);
     Lesson lesson;

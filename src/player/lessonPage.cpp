@@ -50,10 +50,7 @@ LessonPage::LessonPage(const Lesson& played, const std::function<void()>& whenCl
     column->setSpacing(10);
     column->addWidget(stage, 1);
     column->addLayout(strip());
-    again->setParent(this);
-    again->setFocusPolicy(Qt::TabFocus);
-    again->hide();
-    chainTabs({caption->widget(0), caption->widget(1), again, back, turn, on, close});
+    chainTabs({caption->widget(0), caption->widget(1), back, again, turn, on, close});
     connectControls(whenClosed);
     frames.setInterval(frameTime);
     frames.setTimerType(Qt::PreciseTimer);
@@ -63,8 +60,10 @@ QLayout* LessonPage::strip()
 {
     auto* buttons = new QHBoxLayout;
     buttons->setSpacing(8);
-    for (QPushButton* button : {back, turn, on})
+    for (QPushButton* button : {back, turn, on, again})
         buttons->addWidget(button);
+    again->setFocusPolicy(Qt::TabFocus);
+    again->hide();
     auto* left = new QVBoxLayout;
     left->setSpacing(2);
     left->addLayout(buttons);
@@ -142,51 +141,40 @@ bool LessonPage::refresh()
     const Moment moment = playback.shown();
     try {
         if (film.show(moment))
-            stage->show(film.screen());
-    } catch (const RuntimeError& error) {
+            stage->showScreen(film.screen());
+    } catch (...) {
         frames.stop();
-        failed(error.description());
+        failed(currentErrorDescription());
         return false;
     }
-    stage->show(playback.pointer());
-    caption->show(lesson.scenes[moment.scene].caption, playback.isPaused() ? u"Paused."_s : QString());
+    stage->showPointer(playback.pointer());
+    caption->say(lesson.scenes[moment.scene].caption, playback.isPaused() ? u"Paused."_s : QString());
     progress->setText(u"Scene %1 of %2"_s.arg(moment.scene + 1).arg(lesson.scenes.size()));
     if (playback.atEnd() == again->isHidden())
         showState();
     return true;
 }
 
-/// Whether it plays, for eye and ear.
+/// Whether it plays, is paused or has ended.
 void LessonPage::showState()
 {
-    const bool ended = playback.atEnd();
-    const bool plays = !ended && !playback.isPaused();
-    const QString meaning = ended ? u"Play again"_s : plays ? u"Pause"_s : u"Play"_s;
-    turn->setIcon(QIcon(picturePath(ended ? u"playAgain"_s : plays ? u"pause"_s : u"resume"_s)));
+    const QString meaning = playback.isPaused() ? u"Play"_s : u"Pause"_s;
     if (turn->accessibleName() != meaning) {
+        turn->setIcon(QIcon(picturePath(playback.isPaused() ? u"resume"_s : u"pause"_s)));
         turn->setAccessibleName(meaning);
         giveHint(*turn, meaning + u" (Space)"_s);
     }
-    const bool focusMoves = caption->isAncestorOf(QApplication::focusWidget()) || again->hasFocus();
-    again->setVisible(ended);
-    on->setEnabled(!ended);
-    placeAgain();
+    const bool ended = playback.atEnd();
+    if (ended == !again->isHidden())
+        return;
+    const QWidget* focused = QApplication::focusWidget();
+    const bool focusMoves =
+        caption->isAncestorOf(focused) || focused == turn || focused == on || focused == again;
+    again->setVisible(ended); // in place of two other buttons
+    turn->setHidden(ended);
+    on->setHidden(ended);
     if (ended && focusMoves)
         again->setFocus(); // which a screen reader says
     else if (focusMoves)
         caption->takeFocus();
-}
-
-void LessonPage::placeAgain()
-{
-    again->adjustSize();
-    const QPoint middle = stage->geometry().center();
-    again->move(middle.x() - again->width() / 2, stage->geometry().bottom() - again->height() - 24);
-    again->raise();
-}
-
-void LessonPage::resizeEvent(QResizeEvent*)
-{
-    layout()->activate();
-    placeAgain();
 }

@@ -39,7 +39,6 @@ public:
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
-    void resizeEvent(QResizeEvent* event) override;
 
 private:
     QLayout* strip();
@@ -48,7 +47,6 @@ private:
     void act(const std::function<void()>& change);
     bool refresh();
     void showState();
-    void placeAgain();
 
     const Lesson& lesson;
     std::function<void(const QString&)> failed;

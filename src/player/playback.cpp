@@ -4,7 +4,7 @@
 
 namespace {
 
-constexpr double ringTime = 0.8;                  // seconds
+constexpr double ringTime = 1;                    // seconds
 constexpr double heldRing = 0.4, stillRing = 0.4; // growth of a ring that doesn't grow
 
 using Stops = std::vector<PointerStop>;

@@ -14,11 +14,15 @@ struct Moment {
 struct PressRing {
     bool right = false; // the right button
     double growth = 0;  // from 0, pressed just now, to 1, gone
+
+    bool operator==(const PressRing&) const = default;
 };
 
 struct PointerView {
     QPointF place;
     std::optional<PressRing> ring;
+
+    bool operator==(const PointerView&) const = default;
 };
 
 /// The pointer at that moment; none before its first place. It glides from place to place, slowly at both

@@ -57,7 +57,7 @@ QWidget* titlePage(const Lesson& lesson, const std::function<void()>& play,
     Film film(lesson);
     film.show({});
     auto* picture = new Stage;
-    picture->show(film.screen());
+    picture->showScreen(film.screen());
 
     auto* playButton = largeButton("play", "resume", u"Play"_s, "ok", play);
     auto* closeButton = largeButton("leave", "no0", u"Close"_s, "cancel", close);

@@ -17,8 +17,8 @@ PlayerWindow::PlayerWindow(const QString& lessonFolder, bool atOnce)
         lesson = readLesson(lessonFolder);
         setWindowTitle(lesson.title);
         addPages(atOnce);
-    } catch (const RuntimeError& error) {
-        showFault(error.description());
+    } catch (...) {
+        showFault(currentErrorDescription());
     }
 }
 

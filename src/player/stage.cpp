@@ -30,7 +30,7 @@ void drawRing(QPainter& painter, QPointF place, const PressRing& ring)
     const double width = leastRing + (mostRing - leastRing) * ring.growth;
     QRectF area(0, 0, width, width);
     area.moveCenter(place);
-    painter.setOpacity(1 - ring.growth * ring.growth);
+    painter.setOpacity(1 - ring.growth * ring.growth * ring.growth);
     painter.drawPixmap(area, mark("pressRing"), mark("pressRing").rect());
     painter.setOpacity(1);
 }
@@ -43,14 +43,16 @@ Stage::Stage()
     setMinimumSize(160, 90);
 }
 
-void Stage::show(const QImage& screen)
+void Stage::showScreen(const QImage& screen)
 {
     source = screen;
     scaleScreen();
 }
 
-void Stage::show(const std::optional<PointerView>& pointer)
+void Stage::showPointer(const std::optional<PointerView>& pointer)
 {
+    if (pointer == shown)
+        return;
     update(marksArea());
     shown = pointer;
     update(marksArea());

@@ -11,8 +11,8 @@ class Stage : public QWidget {
 public:
     Stage();
 
-    void show(const QImage& screen);
-    void show(const std::optional<PointerView>& pointer);
+    void showScreen(const QImage& screen);
+    void showPointer(const std::optional<PointerView>& pointer);
 
 protected:
     void paintEvent(QPaintEvent* event) override;

@@ -70,7 +70,7 @@ TEST_F(LessonFile, ThatIsBadIsRefusedWithTheReason)
                 << error.description().toStdString();
         }
     }
-    EXPECT_EQ(errorOf([] { readLesson(inTestFolder(u"nowhere"_s)); }), pathNotFound);
+    EXPECT_EQ(errorOf([] { readLesson(inTestFolder(u"nowhere"_s)); }), invalidProperty);
 }
 
 TEST_F(LessonFile, ShowsItsPicturesInTimeForwardsAndBackwards)

@@ -108,7 +108,7 @@ TEST_F(Playing, ALongCaptionIsWholeInASmallWindow)
 {
     const QString longest =
         u"Choose the field that you want, type what you look for, and then press OK to find all of them. Yes!"_s;
-    page.caption->show(longest);
+    page.caption->say(longest);
     window.resize(1024, 560);
     EXPECT_EQ(page.caption->textInView().remove(u'\n').remove(u' '), QString(longest).remove(u' '));
 }
