@@ -128,6 +128,7 @@ def try_keyboards(tour):
 
 with Tour("options") as tour:
     tour.settings.set("Last DB", "Path", "samples/Amazing Animals")
+    (tour.program / "Help" / "Topts.pdf").unlink()
     tour.start()
     tour.open_last()
     before = tour.settings.path.read_bytes()
