@@ -133,6 +133,8 @@ TEST_F(Player, BeginsWithTheTitlePageOrWithStills)
     QApplication::setActiveWindow(&window);
     EXPECT_EQ(window.windowTitle(), u"Finding Cards"_s);
     EXPECT_FALSE(window.page->isVisible());
+    const QSize least = window.minimumSizeHint();
+    EXPECT_TRUE(least.width() <= 1024 && least.height() <= 560) << least.width() << " x " << least.height();
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return); // Play
     EXPECT_TRUE(window.page->isVisible());
     EXPECT_EQ(window.page->playback.shown().second, 4) << "a still";
