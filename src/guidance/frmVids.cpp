@@ -49,11 +49,12 @@ frmVids::frmVids()
     setWindowTitle(u"Installing Videos..."_s);
     setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowCloseButtonHint);
     setAccessibleDescription(Label1->text());
+    Label1->setWordWrap(false);
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(gap, gap, gap, gap);
     row->setSpacing(gap);
     row->addWidget(pictureLabel(u"sand"_s, {64, 64}));
-    row->addWidget(Label1, 1);
+    row->addWidget(Label1);
     Timer1->setInterval(untilFirstTick);
     connect(Timer1, &QTimer::timeout, this, [this] { guarded([this] { install(); }); });
 }

@@ -73,10 +73,12 @@ TEST_F(Unpacking, WritesEveryFileWithItsRunBit)
     EXPECT_FALSE(QFileInfo(inTestFolder(u"lessons/One/lesson.json"_s)).permission(QFile::ExeOwner));
 }
 
-TEST_F(Unpacking, AHostileOrDamagedArchiveLeavesNothing)
+TEST_F(Unpacking, AHostileOrDamagedArchiveChangesNothing)
 {
-    const Packed good{"good.txt", "fine"};
-    const QByteArray whole = rarOf({good, good});
+    QDir(testFolder()).mkdir(u"good"_s);
+    putFile(inTestFolder(u"good/one.txt"_s), "old");
+    const Packed good{"good/one.txt", "new"};
+    const QByteArray whole = rarOf({good, {"another", "x"}});
     const struct {
         const char* reason;
         QByteArray archive;
@@ -93,7 +95,7 @@ TEST_F(Unpacking, AHostileOrDamagedArchiveLeavesNothing)
         {"not allowed", rarOf({good, {QByteArray(201, 'a'), "x"}})},
         {"is a link", rarOf({good, {"link", "/etc/passwd", 0120777}})},
         {"is a link", rarOf({good, {"pipe", "", 010644}})},
-        {"is in it twice", rarOf({good, {"Good.TXT", "x"}})},
+        {"is in it twice", rarOf({good, {"Good/One.TXT", "x"}})},
         {"is in it twice", rarOf({good, {"a/x"}, {"A/y"}})},
         {"is in it twice", rarOf({good, {"a"}, {"a/b"}})},
         {"is in it twice", rarOf({good, {"a/b"}, {"a"}})},
@@ -113,7 +115,8 @@ TEST_F(Unpacking, AHostileOrDamagedArchiveLeavesNothing)
     for (const auto& [reason, archive] : cases) {
         EXPECT_THAT(unpack(archive).toStdString(), HasSubstr(reason))
             << archive.left(400).mid(60).constData();
-        EXPECT_EQ(unpacked(), QStringList()) << reason;
+        EXPECT_EQ(unpacked(), QStringList({u"good"_s, u"good/one.txt"_s})) << reason;
+        EXPECT_EQ(bytesOf(inTestFolder(u"good/one.txt"_s)), "old") << reason;
     }
 }
 
