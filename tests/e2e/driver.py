@@ -187,6 +187,20 @@ class Tour:
         root = reader.program(self._process.pid)
         return next((part for part in root.children if part.name == title and part.has("showing")), None)
 
+    def other_program(self, title):
+        """Waits for a window of exactly that title that belongs to none of the copies, brings it to the front and returns
+        the id of its process."""
+        copies = {copy.pid for copy, _ in self._copies}
+
+        def raised():
+            for number in self._window_numbers(f"^{re.escape(title)}$"):
+                owner = self._owner(number)
+                if owner not in copies | {None}:
+                    self.desk.run("xdotool", "windowactivate", "--sync", number, check=False)
+                    return owner
+            return None
+        return self.wait_until(raised, f'another program\'s window "{title}"')
+
     def windows(self):
         """The titles of all visible windows."""
         return [self.desk.run("xdotool", "getwindowname", number, check=False).strip()
