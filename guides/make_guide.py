@@ -11,6 +11,7 @@ sys.dont_write_bytecode = True
 import markdown  # noqa: E402
 import weasyprint  # noqa: E402
 
+import palettes  # noqa: E402,F401
 import tags  # noqa: E402
 
 EXTENSIONS = ["meta", "toc", "tables", "admonition", "attr_list", "sane_lists", "md_in_html"]
@@ -23,7 +24,7 @@ PAGE = """<!DOCTYPE html>
 
 def page(text):
     reader = markdown.Markdown(extensions=EXTENSIONS, extension_configs=SETTINGS, output_format="html5")
-    body = reader.convert(text)
+    body = reader.convert(text).replace("<p><img", '<p class="picture"><img')
     about = {key: " ".join(lines) for key, lines in reader.Meta.items()}
     return PAGE.format(body=body, **about)
 

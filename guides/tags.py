@@ -7,6 +7,7 @@ an Artifact, which readers pass over."""
 
 import pydyf
 from weasyprint import draw
+from weasyprint.formatting_structure import boxes
 from weasyprint.pdf import VARIANTS
 from weasyprint.pdf.metadata import add_metadata
 from weasyprint.pdf.stream import Stream
@@ -40,7 +41,7 @@ class Content(tuple):
     """What a run of drawing belongs to: an element, and whether it is a list item's number."""
 
     def __new__(cls, box):
-        return super().__new__(cls, (_own_element(box), str(box.element_tag).endswith("::marker")))
+        return super().__new__(cls, (_own_element(box), str(box.element_tag).endswith(("::marker", "::before"))))
 
 
 ARTIFACT = (None, False)
@@ -80,6 +81,25 @@ def _draw_picture(stream, box, plain=draw.draw_replacedbox):
     stream.begin_marked_content(box)
     plain(stream, box)
     stream.end_marked_content()
+
+
+def _draw_line(stream, page, box, *more, plain=draw.draw_inline_level):
+    if isinstance(box, boxes.LineBox):
+        last = [part for part in box.descendants() if isinstance(part, boxes.TextBox)][-1:]
+        _ends_of_lines.update(id(part) for part in last)
+    plain(stream, page, box, *more)
+
+
+def _draw_text(stream, box, *more, plain=draw.draw_text):
+    """Draws the space at the end of a line too, which is lost at the break: readers would join two words."""
+    if id(box) in _ends_of_lines:
+        _ends_of_lines.remove(id(box))
+        box.pango_layout.reactivate(box.style)
+        box.pango_layout.set_text(box.text + " ")
+    plain(stream, box, *more)
+
+
+_ends_of_lines = set()
 
 
 class _Tree:
@@ -174,4 +194,6 @@ def _write_structure(pdf, metadata, document, page_streams):
 Stream.begin_marked_content = _begin
 Stream.end_marked_content = _end
 draw.draw_replacedbox = _draw_picture
+draw.draw_inline_level = _draw_line
+draw.draw_text = _draw_text
 VARIANTS["guide"] = (_write_structure, {"mark": True})
