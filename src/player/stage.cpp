@@ -1,6 +1,7 @@
 #include "player/stage.h"
 
 #include "platform/picture.h"
+#include "platform/stretching.h"
 
 #include <QPainter>
 #include <QStyle>
@@ -88,7 +89,7 @@ void Stage::scaleScreen()
         return;
     const double ratio = devicePixelRatioF();
     const QSize size = (pictureArea().size() * ratio).toSize();
-    scaled = QPixmap::fromImage(source.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
+    scaled = QPixmap::fromImage(stretched(source, size));
     scaled.setDevicePixelRatio(ratio);
     update();
 }
