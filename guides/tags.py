@@ -18,17 +18,17 @@ TAGS = {"h1": "H1", "h2": "H2", "h3": "H3", "p": "P", "ol": "L", "ul": "L", "li"
 WITHOUT_CONTENT = {"L", "Table", "THead", "TBody", "TR", "Div", "Sect"}  # what is drawn for these is decoration
 
 
+_parents = {}  # element: the one around it; WeasyPrint's own elements don't know it
+
+
 def _own_element(box):
     """The element that the box draws, without what is for looks only; the element of a span is its paragraph."""
     element = box.element
     while element is not None and element.tag not in TAGS:
-        element = element.getparent() if hasattr(element, "getparent") else _parents.get(element)
+        element = _parents.get(element)
     if element is None or TAGS[element.tag] in WITHOUT_CONTENT or (element.tag == "img" and not element.get("alt")):
         return None
     return element
-
-
-_parents = {}  # element: the one around it; WeasyPrint's own elements don't know it
 
 
 def learn(root):
@@ -37,19 +37,18 @@ def learn(root):
     _parents.update((child, parent) for parent in root.iter() for child in parent)
 
 
-class Content(tuple):
-    """What a run of drawing belongs to: an element, and whether it is a list item's number."""
-
-    def __new__(cls, box):
-        return super().__new__(cls, (_own_element(box), str(box.element_tag).endswith(("::marker", "::before"))))
-
-
+# What a run of drawing belongs to: an element, and whether it is the number of a list's item.
 ARTIFACT = (None, False)
 
 
+def _content(box):
+    element = _own_element(box)
+    is_number = str(box.element_tag).endswith(("::marker", "::before"))
+    return ARTIFACT if element is None else (element, is_number)
+
+
 def _begin(stream, box, mcid=False, tag=None):
-    content = Content(box)
-    content = ARTIFACT if content[0] is None else tuple(content)
+    content = _content(box)
     _turn(stream, content)
     stream.open_content.append(content)
     if tag == "Link":
@@ -83,6 +82,9 @@ def _draw_picture(stream, box, plain=draw.draw_replacedbox):
     stream.end_marked_content()
 
 
+_ends_of_lines = set()  # the last text boxes of lines, which are still to be drawn
+
+
 def _draw_line(stream, page, box, *more, plain=draw.draw_inline_level):
     if isinstance(box, boxes.LineBox):
         last = [part for part in box.descendants() if isinstance(part, boxes.TextBox)][-1:]
@@ -97,9 +99,6 @@ def _draw_text(stream, box, *more, plain=draw.draw_text):
         box.pango_layout.reactivate(box.style)
         box.pango_layout.set_text(box.text + " ")
     plain(stream, box, *more)
-
-
-_ends_of_lines = set()
 
 
 class _Tree:
@@ -147,8 +146,8 @@ class _Tree:
 
     def add_run(self, page, mcid, content):
         """A run on a page, as a part of its element. Gives the element."""
-        element, is_marker = content
-        part = ("Lbl" if is_marker else "LBody") if element.tag == "li" else None
+        element, is_number = content
+        part = ("Lbl" if is_number else "LBody") if element.tag == "li" else None
         owner = self.element(element, part)
         place = max([self._order[element], *(place for place, _ in self._kids[owner.number])])
         run = pydyf.Dictionary({"Type": "/MCR", "Pg": page, "MCID": mcid})
