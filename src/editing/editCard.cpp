@@ -177,6 +177,8 @@ void editCard::load()
     session.options.soundStatus = soundStatusOf(read(option::sound));
     if (session.options.soundStatus == 0)
         FTab1->hide();
+    else
+        keepPlaceWhenHidden(*Cover); // it is wider than a card of few fields
 }
 
 void editCard::showCard()
