@@ -7,6 +7,7 @@
 #include "platform/errors.h"
 
 #include <QHBoxLayout>
+#include <QHideEvent>
 
 using namespace Qt::StringLiterals;
 
@@ -65,9 +66,18 @@ void frmVids::load()
     Timer1->start();
 }
 
+/// Closed in whatever way, it doesn't begin any more, and what has begun is given up. Minimising it is no
+/// end.
+void frmVids::hideEvent(QHideEvent* event)
+{
+    if (event->spontaneous())
+        return;
+    Timer1->stop();
+    errands.forget();
+}
+
 void frmVids::reject()
 {
-    errands.forget();
     desktop.screen.setBusyPointer(false);
     unload<frmVids>();
 }

@@ -19,6 +19,9 @@ public:
     QLabel* const Label1;
     QTimer* const Timer1; // its one tick begins the installation
 
+protected:
+    void hideEvent(QHideEvent* event) override;
+
 private:
     void install();
 
