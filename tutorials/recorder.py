@@ -55,8 +55,11 @@ PATIENCE = 4.0  # the longest wait for that; some steps change nothing, and a ca
 LONGEST_FLIGHTS = 180  # seconds of the machine
 TILE = 24  # pixels: changes that are further apart become pictures of their own
 PIECE = 256, 150  # pixels: larger changes are cut up
-COLOURS = 64  # of a piece
-LARGEST_ERROR = 5  # of 255, by fewer colours
+COLOURS = (64, 128, 256)  # of a piece: the fewest that no pixel suffers by
+FLAT = 20  # pixels of one colour in a piece
+NEAR = 8  # of 255: Pillow takes colours that are nearer for each other
+LARGEST_ERROR = 48  # of 255, of a pixel by fewer colours
+LARGEST_MEAN = 5  # of a whole screen
 
 # The same "random" places of cards each time a lesson is recorded.
 SAME_CHANCES = """
@@ -79,7 +82,7 @@ class Camera:
     """Reads the screen from the file in which Xvfb keeps it: without the pointer, in a few milliseconds."""
 
     HEADER = struct.Struct(">25I")
-    OPTIONS = ("-fbdir", "{}", "-nocursor")
+    OPTIONS = ("-fbdir", "{}", "-nocursor", "-r")  # no key repeats itself on a slow machine
 
     def __init__(self, desk):
         self._file = open(desk.folder / "Xvfb_screen0", "rb")
@@ -139,6 +142,33 @@ def pieces(before, after):
                 for x in range(left // PIECE[0] * PIECE[0], right, PIECE[0]))
         found += [box for box in grid if ImageChops.difference(before.crop(box), after.crop(box)).getbbox()]
     return list(dict.fromkeys(found))
+
+
+def digest_of(picture):
+    return hashlib.sha256(repr(picture.size).encode() + picture.tobytes()).digest()
+
+
+def with_few_colours(picture):
+    """The picture with a palette."""
+    for colours in COLOURS:
+        small = picture.quantize(palette=palette_for(picture, colours), dither=Image.Dither.NONE)
+        errors = ImageChops.difference(small.convert("RGB"), picture).getextrema()
+        if max(most for _, most in errors) <= LARGEST_ERROR:
+            break
+    return small
+
+
+def palette_for(picture, colours):
+    """A palette with the colours of flat areas as they are, lest these differ from piece to piece, and means of others."""
+    found = sorted(picture.getcolors(picture.width * picture.height), reverse=True)
+    flat = [colour for count, colour in found if count >= FLAT][:colours // 2]
+    means = picture.quantize(colours - len(flat), method=Image.Quantize.MAXCOVERAGE, kmeans=3, dither=Image.Dither.NONE)
+    values = means.getpalette()
+    others = [tuple(values[i:i + 3]) for i in range(0, 3 * (colours - len(flat)), 3)]
+    apart = [other for other in others if all(max(abs(a - b) for a, b in zip(other, colour)) >= NEAR for colour in flat)]
+    palette = Image.new("P", (1, 1))
+    palette.putpalette([value for colour in flat + apart for value in colour])
+    return palette
 
 
 class Film:
@@ -258,7 +288,7 @@ class Lesson(Tour):
         whole = sum(scene["length"] for scene in self._scenes)
         self.check(WHOLE[0] <= whole <= WHOLE[1], f"the lesson takes {whole:.0f} seconds")
         story = {"title": self._title, "size": list(self.camera.size), "scenes": self._scenes}
-        text = json.dumps(story, ensure_ascii=False, indent=1)
+        text = json.dumps(story, ensure_ascii=False, separators=(",", ":")).replace('{"caption"', '\n{"caption"')
         (self._folder / "lesson.json").write_text(text + "\n", encoding="utf-8")
         self._check_pictures()
         target = LESSONS / self._name
@@ -273,7 +303,7 @@ class Lesson(Tour):
         """The pictures, laid over each other by a player, show at the end what the screen showed."""
         played = list(contactSheet.moments(self._folder))[-1][2]
         error = max(ImageStat.Stat(ImageChops.difference(played, self._last)).rms)
-        self.check(error < LARGEST_ERROR, f"the pictures differ from the screen by {error:.1f}")
+        self.check(error < LARGEST_MEAN, f"the pictures differ from the screen by {error:.1f}")
 
     # Scenes
 
@@ -361,19 +391,19 @@ class Lesson(Tour):
         first = not self._scenes and not self._scene["pictures"]
         before = ImageChops.invert(frame) if first else self._last
         for box in pieces(before, frame):
+            if digest_of(frame.crop(box)) not in self._files:  # only what has changed then needs a new file
+                left, top, right, bottom = ImageChops.difference(before.crop(box), frame.crop(box)).getbbox()
+                box = box[0] + left, box[1] + top, box[0] + right, box[1] + bottom
             self._scene["pictures"].append({"at": round(self._at, 2), "file": self._file_of(frame.crop(box)),
                                             "x": box[0], "y": box[1]})
         self._last = frame
 
     def _file_of(self, picture):
         """The name of the file with that picture, which may be there already."""
-        digest = hashlib.sha256(repr(picture.size).encode() + picture.tobytes()).digest()
+        digest = digest_of(picture)
         if digest not in self._files:
             self._files[digest] = name = f"{len(self._files) + 1:03}.png"
-            if picture.getcolors(COLOURS):
-                small = picture.convert("P", palette=Image.Palette.ADAPTIVE, colors=COLOURS)
-            else:
-                small = picture.quantize(COLOURS, method=Image.Quantize.LIBIMAGEQUANT, dither=Image.Dither.NONE)
+            small = with_few_colours(picture)
             small.save(self._folder / name, optimize=True)
         return self._files[digest]
 
