@@ -3,8 +3,8 @@
 
 #include <QString>
 
-/// Stops a run of cards without a message and closes its speed window, since it would go on with the cards of
-/// the next database.
+/// Stops a run of cards without a message and closes its speed window. Needed before other cards come, with
+/// which the run would go on.
 void abandonRun();
 
 /// Makes the folder the open database: loads it, lays its cards out in a block, enables menus and buttons and

@@ -14,6 +14,7 @@
 #include <QGridLayout>
 #include <QIcon>
 #include <QKeyEvent>
+#include <QMouseEvent>
 #include <QToolButton>
 #include <QVBoxLayout>
 
@@ -186,7 +187,8 @@ void FrmHelp::run()
 bool FrmHelp::eventFilter(QObject* watched, QEvent* event)
 {
     auto* option = qobject_cast<QRadioButton*>(watched);
-    if (event->type() == QEvent::MouseButtonDblClick)
+    if (event->type() == QEvent::MouseButtonDblClick &&
+        static_cast<QMouseEvent*>(event)->button() == Qt::LeftButton)
         answers->ok->click();
     else if (event->type() == QEvent::KeyPress &&
              static_cast<QKeyEvent*>(event)->matches(QKeySequence::InsertParagraphSeparator))

@@ -1,4 +1,4 @@
-// Starting a video tutorial, or offering to install the tutorials.
+// Offering to install the tutorials where one can't be started. Plain starting is in controls/dialogParts.
 #pragma once
 
 #include <QString>

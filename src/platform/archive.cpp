@@ -15,6 +15,7 @@
 #include <archive_entry.h>
 #include <functional>
 #include <memory>
+#include <sys/stat.h>
 
 using namespace Qt::StringLiterals;
 
@@ -41,7 +42,7 @@ using Wanted = std::function<bool(const Entry& entry)>;
 using Take = std::function<void(const Entry& entry, const QByteArray& bytes)>;
 
 /// Whether a character can neither be seen nor is a blank: control characters, marks that turn the direction
-/// of text, halves of characters.
+/// of text.
 bool isHidden(QChar c)
 {
     return c.category() == QChar::Other_Control || c.category() == QChar::Other_Format ||
@@ -237,8 +238,22 @@ void Source::read(const Wanted& wanted, const Take& take)
         refuseFor(u"it has no files in it"_s);
 }
 
+/// What a file is on its disk, whatever its name.
+struct Identity {
+    dev_t disk = 0;
+    ino_t number = 0;
+    bool operator==(const Identity&) const = default;
+};
+
+Identity identityOf(const QString& path)
+{
+    struct stat status = {};
+    return ::lstat(QFile::encodeName(path).constData(), &status) == 0 ? Identity{status.st_dev, status.st_ino}
+                                                                      : Identity{};
+}
+
 /// What is being unpacked. The destructor removes the files and folders that were not there before, unless
-/// keep() was called.
+/// keep() was called. What another program has unpacked over them in the meantime stays.
 class Unpacked {
 public:
     explicit Unpacked(const QString& target)
@@ -248,21 +263,21 @@ public:
     ~Unpacked()
     {
         for (auto made = newPaths.crbegin(); made != newPaths.crend(); ++made) {
-            if (!QFile::remove(*made))
-                QDir().rmdir(*made);
+            if (identityOf(made->path) == made->identity && !QFile::remove(made->path))
+                QDir().rmdir(made->path);
         }
     }
     Unpacked(const Unpacked&) = delete;
     Unpacked& operator=(const Unpacked&) = delete;
 
-    void add(const Entry& entry, const QByteArray& bytes)
+    void add(const Entry& entry, const QByteArray& bytes, Flush flush)
     {
         prepareFoldersOf(entry.name);
         const QString path = folder + u'/' + entry.name;
         const bool isNew = !QFileInfo::exists(path);
-        placeFile(path, bytes, entry.canBeRun);
+        placeFile(path, bytes, entry.canBeRun, flush);
         if (isNew)
-            newPaths.append(path);
+            newPaths.append({path, identityOf(path)});
     }
     void keep() { newPaths.clear(); }
 
@@ -279,27 +294,35 @@ private:
                 sweepLeftovers(path);
             } else {
                 makeFolder(path);
-                newPaths.append(path);
+                newPaths.append({path, identityOf(path)});
             }
         }
     }
 
+    struct Made {
+        QString path;
+        Identity identity;
+    };
     QString folder;
     QStringList prepared;
-    QStringList newPaths;
+    QList<Made> newPaths;
 };
 
 } // namespace
 
 void unpackArchive(const QString& archive, const QString& folder, const std::atomic<bool>& stop)
 {
-    const FolderLock lock(folder); // a second program waits until this one has removed what it had to
+    const FolderLock lock(folder); // two programs at once would unpack everything twice
     Source source(archive, stop);
     source.read([](const Entry&) { return false; }, {});
     Unpacked unpacked(folder);
-    for (const bool atTop : {false, true}) {
-        source.read([atTop](const Entry& entry) { return entry.name.contains(u'/') != atTop; },
-                    [&unpacked](const Entry& entry, const QByteArray& bytes) { unpacked.add(entry, bytes); });
-    }
+    source.read([](const Entry& entry) { return entry.name.contains(u'/'); },
+                [&unpacked](const Entry& entry, const QByteArray& bytes) {
+                    unpacked.add(entry, bytes, Flush::later);
+                });
+    flushDiskOf(folder); // once for thousands of files
+    source.read(
+        [](const Entry& entry) { return !entry.name.contains(u'/'); },
+        [&unpacked](const Entry& entry, const QByteArray& bytes) { unpacked.add(entry, bytes, Flush::now); });
     unpacked.keep();
 }

@@ -143,6 +143,7 @@ public:
     void cutTo(qint64 length) const { check(::ftruncate(descriptor, length)); }
     bool takeRights(const FileRights& rights) const { return giveRights(descriptor, rights); }
     void flushToDisk() const { check(::fdatasync(descriptor)); }
+    void flushWholeDisk() const { check(::syncfs(descriptor)); }
 
     /// Closes the file and returns the error, if any: network disks report a lack of space only here.
     void close()
@@ -205,10 +206,11 @@ public:
     struct stat status() const { return file.status(); }
     bool takeRights(const FileRights& rights) const { return file.takeRights(rights); }
 
-    void fill(const QByteArray& bytes)
+    void fill(const QByteArray& bytes, Flush flush = Flush::now)
     {
         file.writeFromStart(bytes);
-        file.flushToDisk();
+        if (flush == Flush::now)
+            file.flushToDisk();
         file.close();
     }
 
@@ -332,16 +334,24 @@ void replaceFile(const QString& path, const QByteArray& bytes, const QString& li
         raiseFor(refusal == ENOENT ? ENOTDIR : refusal);
 }
 
-void placeFile(const QString& path, const QByteArray& bytes, bool canBeRun)
+void placeFile(const QString& path, const QByteArray& bytes, bool canBeRun, Flush flush)
 {
     NewFile made(folderOf(path), canBeRun ? 0777 : 0666);
     int refusal = made.error();
     if (!refusal) {
-        made.fill(bytes);
+        made.fill(bytes, flush);
         refusal = made.takePlaceOf(path);
     }
     if (refusal)
         raiseFor(refusal == ENOENT ? ENOTDIR : refusal);
+}
+
+void flushDiskOf(const QString& folder)
+{
+    const OpenFile opened(folder, O_RDONLY | O_DIRECTORY);
+    if (opened.error())
+        raiseFor(opened.error());
+    opened.flushWholeDisk();
 }
 
 void makeFolder(const QString& path, const QString& like)

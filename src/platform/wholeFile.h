@@ -22,10 +22,16 @@ QByteArray readWholeFile(const QString& path, qint64 limit = largestFile);
 /// overwritten in place, in space that was reserved first. This is not atomic: a reader may see a mixture.
 void replaceFile(const QString& path, const QByteArray& bytes, const QString& like = {});
 
+/// Whether a file's bytes are written to the disk before it takes its place, or by flushDiskOf() afterwards.
+enum class Flush { now, later };
+
 /// Makes a file, or replaces it atomically, with the rights of any new file there; if it can be run, then by
 /// all who may read it. A link is replaced, not followed. After an error there is the old file or none.
 /// Raises what replaceFile() raises.
-void placeFile(const QString& path, const QByteArray& bytes, bool canBeRun);
+void placeFile(const QString& path, const QByteArray& bytes, bool canBeRun, Flush flush);
+
+/// Waits until everything written to the folder's disk is on it. Raises what replaceFile() raises.
+void flushDiskOf(const QString& folder);
 
 /// Makes a folder, with the rights of the folder `like`, if given. Raises 75 when the name is taken or the
 /// parent folder can't be written to, 76 when that doesn't exist or the name is too long, and 61, 70, 57 or

@@ -11,6 +11,7 @@
 #include <QJsonObject>
 #include <QRegularExpression>
 
+#include <cmath>
 #include <numeric>
 
 using namespace Qt::StringLiterals;

@@ -20,7 +20,8 @@ QString programFolder()
     return folder.endsWith("/Videos/player"_L1) ? QDir::cleanPath(folder + u"/../.."_s) : folder;
 }
 
-QString chosenScale()
+/// Runs between the application that only measures the screen and the one that stays.
+QString installDesktopAndReadScale()
 {
     installDesktop();
     desktop.files.programFolder = programFolder;
@@ -31,7 +32,7 @@ QString chosenScale()
 
 int main(int argc, char** argv)
 {
-    const auto application = makeApplication(argc, argv, chosenScale);
+    const auto application = makeApplication(argc, argv, installDesktopAndReadScale);
     dressApplication();
     QStringList arguments = QCoreApplication::arguments().mid(1);
     const bool atOnce = arguments.removeAll(u"/shc"_s) > 0;

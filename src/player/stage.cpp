@@ -3,6 +3,7 @@
 #include "platform/picture.h"
 #include "platform/stretching.h"
 
+#include <QHash>
 #include <QPainter>
 #include <QStyle>
 #include <QStyleOption>

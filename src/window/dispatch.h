@@ -22,7 +22,7 @@ QString pictureOf(const QString& word);
 /// Whether a click on that line of the open menu runs its command.
 bool lineIsEnabled(int line);
 
-/// Handles a click on a line of the open menu; does nothing while no menu is open.
+/// Handles a click on a line of the open menu; does nothing while no menu is open, or under a dialog.
 void dispatchLine(int line);
 
 /// Runs the command of that word; an unknown word does nothing.

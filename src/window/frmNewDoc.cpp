@@ -15,6 +15,7 @@
 #include <QGroupBox>
 #include <QIcon>
 #include <QKeyEvent>
+#include <QMouseEvent>
 #include <QVBoxLayout>
 
 using namespace Qt::StringLiterals;
@@ -117,7 +118,8 @@ bool frmNewDoc::eventFilter(QObject* watched, QEvent* event)
         return false;
     if (event->type() == QEvent::MouseButtonPress && watched != option)
         option->click();
-    else if (event->type() == QEvent::MouseButtonDblClick)
+    else if (event->type() == QEvent::MouseButtonDblClick &&
+             static_cast<QMouseEvent*>(event)->button() == Qt::LeftButton)
         answers->ok->click();
     else if (event->type() == QEvent::KeyPress &&
              static_cast<QKeyEvent*>(event)->matches(QKeySequence::InsertParagraphSeparator))

@@ -12,7 +12,14 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr double secondsPerWord = 0.35;
-constexpr int longestCaption = 110;
+constexpr int longestCaption = 100;
+
+// What help window, buttons and teacher's options start.
+const QStringList shipped = {
+    u"Entering Data"_s, u"Finding Cards"_s,    u"Grouping Cards"_s, u"Looking at Statistics"_s,
+    u"Making Graphs"_s, u"Making a report"_s,  u"Newdb"_s,          u"Oview"_s,
+    u"Sorting Data"_s,  u"Start a Database"_s, u"Topts"_s,          u"Using Databases"_s,
+};
 
 /// What of the screen the lesson doesn't show at its beginning.
 QRegion missingAtFirst(const Lesson& lesson)
@@ -30,9 +37,8 @@ QRegion missingAtFirst(const Lesson& lesson)
 TEST(ShippedLessons, AreWholeAndCanBeReadInTime)
 {
     const QDir lessons(QStringLiteral(TUTORIALS_FOLDER "/lessons"));
-    const QStringList names = lessons.entryList(QDir::Dirs | QDir::NoDotAndDotDot);
-    if (names.isEmpty())
-        GTEST_SKIP() << "no lesson is recorded yet";
+    const QStringList names = lessons.entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name);
+    EXPECT_EQ(names, shipped);
     for (const QString& name : names) {
         SCOPED_TRACE(name.toStdString());
         const Lesson lesson = readLesson(lessons.filePath(name));
