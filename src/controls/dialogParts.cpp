@@ -6,10 +6,17 @@
 #include "platform/picture.h"
 
 #include <QApplication>
+#include <QDateTime>
 #include <QHBoxLayout>
 #include <QIcon>
 
 using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int untilPlayerShows = 3; // seconds
+
+} // namespace
 
 QLabel* words(const QString& text, const char* role)
 {
@@ -95,7 +102,12 @@ QPushButton* videoButton(const QString& tutorial)
     auto* button = named(new QPushButton(u"Watch a video"_s), "BtnVid");
     button->setIcon(QIcon(picturePath(u"welcomeVideo"_s)));
     button->setProperty("role", u"video"_s);
-    onClick(button, [tutorial] { ignoringErrors({[&] { startTutorial(tutorial); }}); });
+    onClick(button, [tutorial, pressed = QDateTime()]() mutable {
+        if (pressed.isValid() && pressed.secsTo(desktop.now()) < untilPlayerShows)
+            return; // a child clicks again while the player starts
+        pressed = desktop.now();
+        ignoringErrors({[&] { startTutorial(tutorial); }});
+    });
     return button;
 }
 

@@ -54,7 +54,7 @@ void chainTabs(std::initializer_list<QWidget*> controls);
 /// right.
 QLayout* answerRow(QWidget* answers, QWidget* help = nullptr);
 
-/// "Watch a video": starts the tutorial of that name, ignoring any error.
+/// "Watch a video": starts the tutorial of that name, ignoring any error and clicks that follow too soon.
 QPushButton* videoButton(const QString& tutorial = QStringLiteral("Entering Data"));
 
 /// The path of the program that plays the tutorial of that name.

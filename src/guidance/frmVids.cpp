@@ -6,8 +6,10 @@
 #include "platform/desktop.h"
 #include "platform/errors.h"
 
+#include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QHideEvent>
+#include <QWindow>
 
 using namespace Qt::StringLiterals;
 
@@ -90,4 +92,11 @@ void frmVids::install()
                  tellHowItWent);
 }
 
-void installTutorials() { showModal(form<frmVids>()); }
+void installTutorials()
+{
+    showModal(form<frmVids>());
+    // The last box and the window go in the same moment; some window managers then leave the keyboard
+    // nowhere.
+    if (QWindow* behind = QGuiApplication::modalWindow())
+        behind->requestActivate();
+}

@@ -9,13 +9,17 @@
 #include <QFileInfo>
 #include <QHash>
 #include <QStringList>
+#include <QtEndian>
 
 #include <algorithm>
 #include <archive.h>
 #include <archive_entry.h>
+#include <array>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <sys/stat.h>
+#include <unistd.h>
 
 using namespace Qt::StringLiterals;
 
@@ -40,6 +44,30 @@ struct Entry {
 
 using Wanted = std::function<bool(const Entry& entry)>;
 using Take = std::function<void(const Entry& entry, const QByteArray& bytes)>;
+
+/// The checksum of ZIP and RAR archives: CRC-32.
+class Checksum {
+public:
+    void add(const uchar* bytes, size_t size)
+    {
+        static const auto table = [] {
+            std::array<quint32, 256> sums;
+            for (quint32 byte = 0; byte < sums.size(); ++byte) {
+                quint32 sum = byte;
+                for (int bit = 0; bit < 8; ++bit)
+                    sum = (sum >> 1) ^ (sum & 1 ? 0xEDB88320u : 0);
+                sums[byte] = sum;
+            }
+            return sums;
+        }();
+        for (const uchar* byte = bytes; byte != bytes + size; ++byte)
+            rest = table[(rest ^ *byte) & 0xff] ^ (rest >> 8);
+    }
+    quint32 value() const { return ~rest; }
+
+private:
+    quint32 rest = ~0u;
+};
 
 /// Whether a character can neither be seen nor is a blank: control characters, marks that turn the direction
 /// of text.
@@ -106,7 +134,7 @@ public:
         if (!info.exists())
             throw RuntimeError(fileNotFound, u"\"%1\" was not found."_s.arg(info.fileName()));
         if (!info.isFile() || !file.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
-            throw RuntimeError(pathAccessError);
+            refuseFor(u"it can't be read"_s);
     }
 
     /// Reads it to its end and hands over the wanted files.
@@ -129,6 +157,7 @@ private:
     bool isWhole();
     Entry described(archive_entry* entry) const;
     QByteArray contentOf(const Reader& reader, const Entry& entry, bool kept) const;
+    std::optional<quint32> checksumIn(const Reader& reader) const;
     void stopWhenTold() const
     {
         if (stop)
@@ -180,9 +209,26 @@ Entry Source::described(archive_entry* entry) const
     return found;
 }
 
+/// The checksum in the header of the present file of a RAR 4 archive, none for RAR 5.
+std::optional<quint32> Source::checksumIn(const Reader& reader) const
+{
+    constexpr qint64 mark = 7, typeAt = 2, lengthAt = 5, checksumAt = 16;
+    constexpr char fileHeader = 0x74;
+    char head[checksumAt + sizeof(quint32)] = {};
+    qint64 at = archive_read_header_position(reader.get());
+    const auto load = [&] { return ::pread(file.handle(), head, sizeof head, at) == sizeof head; };
+    if (at == 0 && load()) // of the first file libarchive gives the archive's beginning
+        at = mark + qFromLittleEndian<quint16>(head + mark + lengthAt);
+    if (!load() || head[typeAt] != fileHeader)
+        return {};
+    return qFromLittleEndian<quint32>(head + checksumAt);
+}
+
 QByteArray Source::contentOf(const Reader& reader, const Entry& entry, bool kept) const
 {
     const QString wrongSize = u"the size of \"%1\" in it is wrong"_s.arg(fitForABox(entry.name));
+    const std::optional<quint32> expected = checksumIn(reader); // libarchive ignores that of a stored file
+    Checksum checksum;
     QByteArray bytes;
     qint64 length = 0;
     const void* block = nullptr;
@@ -194,6 +240,7 @@ QByteArray Source::contentOf(const Reader& reader, const Entry& entry, bool kept
         if (offset != length || qint64(size) > entry.size - length)
             refuseFor(wrongSize);
         length += qint64(size);
+        checksum.add(static_cast<const uchar*>(block), size);
         if (kept)
             bytes.append(static_cast<const char*>(block), qsizetype(size));
     }
@@ -201,6 +248,8 @@ QByteArray Source::contentOf(const Reader& reader, const Entry& entry, bool kept
         refuseAsDamaged();
     if (length != entry.size)
         refuseFor(wrongSize);
+    if (expected && checksum.value() != *expected)
+        refuseAsDamaged();
     return bytes;
 }
 

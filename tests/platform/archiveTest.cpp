@@ -109,6 +109,8 @@ TEST_F(Unpacking, AHostileOrDamagedArchiveChangesNothing)
         {"damaged", whole.first(whole.size() / 2)},
         {"damaged", whole.chopped(1)},
         {"damaged", damaged(whole, 25)},
+        {"damaged", damaged(whole, whole.indexOf("new"))},
+        {"damaged", damaged(whole, whole.indexOf("another") + 7)}, // the byte of the last file
         {"damaged", QByteArray(400, 'x')},
         {"damaged", {}},
     };
