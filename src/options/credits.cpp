@@ -27,6 +27,7 @@ constexpr Work works[] = {
     {"libjpeg-turbo", "reads photos", "Thomas G. Lane, Guido Vollbeding and contributors",
      "BSD and Independent JPEG Group licences"},
     {"zlib", "unpacks", "Jean-loup Gailly and Mark Adler", "zlib licence"},
+    {"libarchive", "unpacks the videos", "Tim Kientzle and contributors", "BSD licence of two clauses"},
     {"CUPS library", "talks to printers", "Apple Inc. and Michael R Sweet",
      "Apache License 2.0 with GPL exception"},
     {"PulseAudio library", "talks to loudspeakers and microphones", "Lennart Poettering and contributors",
