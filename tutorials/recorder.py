@@ -158,14 +158,21 @@ def with_few_colours(picture):
     return small
 
 
+def is_apart(colour, others):
+    return all(max(abs(a - b) for a, b in zip(colour, other)) >= NEAR for other in others)
+
+
 def palette_for(picture, colours):
     """A palette with the colours of flat areas as they are, lest these differ from piece to piece, and means of others."""
     found = sorted(picture.getcolors(picture.width * picture.height), reverse=True)
-    flat = [colour for count, colour in found if count >= FLAT][:colours // 2]
+    flat = []
+    for count, colour in found:
+        if count >= FLAT and len(flat) < colours // 2 and is_apart(colour, flat):
+            flat.append(colour)
     means = picture.quantize(colours - len(flat), method=Image.Quantize.MAXCOVERAGE, kmeans=3, dither=Image.Dither.NONE)
     values = means.getpalette()
     others = [tuple(values[i:i + 3]) for i in range(0, 3 * (colours - len(flat)), 3)]
-    apart = [other for other in others if all(max(abs(a - b) for a, b in zip(other, colour)) >= NEAR for colour in flat)]
+    apart = [other for other in others if is_apart(other, flat)]
     palette = Image.new("P", (1, 1))
     palette.putpalette([value for colour in flat + apart for value in colour])
     return palette
