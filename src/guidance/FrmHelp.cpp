@@ -1,6 +1,7 @@
 #include "guidance/FrmHelp.h"
 
 #include "controls/dialogParts.h"
+#include "controls/quickChoice.h"
 #include "guidance/tutorial.h"
 #include "platform/desktop.h"
 #include "platform/errors.h"
@@ -9,12 +10,9 @@
 #include "platform/wholeFile.h"
 
 #include <QActionGroup>
-#include <QEvent>
 #include <QFileInfo>
 #include <QGridLayout>
 #include <QIcon>
-#include <QKeyEvent>
-#include <QMouseEvent>
 #include <QToolButton>
 #include <QVBoxLayout>
 
@@ -136,7 +134,7 @@ void FrmHelp::fillChoices()
         const int number = int(options.size());
         auto* option = element(new QRadioButton(choice.caption), "Option", number + 1);
         option->setIcon(QIcon(picturePath(choice.picture)));
-        option->installEventFilter(this);
+        chooseQuickly(option, answers->ok);
         connect(option, &QRadioButton::toggled, this, [this] { showAnswer(); });
         options.append(option);
         if (number == 0)
@@ -182,16 +180,4 @@ void FrmHelp::run()
             playVideo(choices[number]);
         return;
     }
-}
-
-bool FrmHelp::eventFilter(QObject* watched, QEvent* event)
-{
-    auto* option = qobject_cast<QRadioButton*>(watched);
-    if (event->type() == QEvent::MouseButtonDblClick &&
-        static_cast<QMouseEvent*>(event)->button() == Qt::LeftButton)
-        answers->ok->click();
-    else if (event->type() == QEvent::KeyPress &&
-             static_cast<QKeyEvent*>(event)->matches(QKeySequence::InsertParagraphSeparator))
-        option->click(); // Return chooses the focused option, then presses OK
-    return false;
 }

@@ -25,9 +25,6 @@ public:
     QList<QRadioButton*> options; // Option1 and those after it
     QPlainTextEdit* const RTFNew; // what is new
 
-protected:
-    bool eventFilter(QObject* watched, QEvent* event) override;
-
 private:
     void fillToolbar();
     void fillChoices();

@@ -3,6 +3,7 @@
 #include "controls/dialogParts.h"
 #include "controls/fittedLabel.h"
 #include "controls/forms.h"
+#include "controls/quickChoice.h"
 #include "core/mainView.h"
 #include "database/opening.h"
 #include "guidance/tutorial.h"
@@ -10,12 +11,9 @@
 #include "store/options.h"
 #include "window/shutDown.h"
 
-#include <QEvent>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QIcon>
-#include <QKeyEvent>
-#include <QMouseEvent>
 #include <QVBoxLayout>
 
 using namespace Qt::StringLiterals;
@@ -88,10 +86,7 @@ void frmNewDoc::addChoice(QGridLayout& grid, QRadioButton* option, const char* p
     option->setAccessibleDescription(explanation->text());
     grid.addWidget(option, row, 0, 1, 2);
     grid.addWidget(explanation, row + 1, 1, Qt::AlignTop);
-    for (QWidget* part : std::initializer_list<QWidget*>{option, explanation}) {
-        choiceAt.insert(part, option);
-        part->installEventFilter(this);
-    }
+    chooseQuickly(option, answers->ok, explanation);
     connect(option, &QRadioButton::toggled, this, [this] { answers->ok->setEnabled(true); });
 }
 
@@ -109,22 +104,6 @@ void frmNewDoc::load()
     lblPath->setEnabled(known);
     Option4->setEnabled(known);
     Option4->setAccessibleDescription(lblPath->text());
-}
-
-bool frmNewDoc::eventFilter(QObject* watched, QEvent* event)
-{
-    QRadioButton* option = choiceAt.value(watched);
-    if (!option || !option->isEnabled())
-        return false;
-    if (event->type() == QEvent::MouseButtonPress && watched != option)
-        option->click();
-    else if (event->type() == QEvent::MouseButtonDblClick &&
-             static_cast<QMouseEvent*>(event)->button() == Qt::LeftButton)
-        answers->ok->click();
-    else if (event->type() == QEvent::KeyPress &&
-             static_cast<QKeyEvent*>(event)->matches(QKeySequence::InsertParagraphSeparator))
-        option->click(); // Return chooses the focused option, then presses OK
-    return false;
 }
 
 void frmNewDoc::begin()

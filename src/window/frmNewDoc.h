@@ -3,7 +3,6 @@
 
 #include "controls/answerButtons.h"
 
-#include <QHash>
 #include <QLabel>
 #include <QRadioButton>
 
@@ -24,14 +23,9 @@ public:
     QLabel* const lblPath;
     QString TxtPath; // the last database's folder
 
-protected:
-    bool eventFilter(QObject* watched, QEvent* event) override;
-
 private:
     QGroupBox* choices();
     void addChoice(QGridLayout& grid, QRadioButton* option, const char* pictureName, QLabel* explanation);
     void orderKeys(QWidget* video);
     void begin();
-
-    QHash<QObject*, QRadioButton*> choiceAt; // a click on an explanation chooses the option above it
 };
