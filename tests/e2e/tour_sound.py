@@ -52,7 +52,10 @@ class Voice:
         if seconds:
             self.tour.find("label", "Recording")
             self.say(seconds)
-        self.press(*then)
+        for name in then:
+            self.press(name)
+            if name == "Play" and name != then[-1]:  # pressed by a reader, it acts a tenth of a second later
+                self.tour.find("label", "Playing")
 
     def close(self, answer, seconds=None):
         """Leaves the editor; the card then has a tone of that length, or the sound that it had before."""
@@ -133,7 +136,8 @@ def cancelled_at_every_moment(tour, voice):
     """By assistive technology."""
     voice.by_reader = True
     for then in ((), ("Pause Recording",), ("Stop Recording",), ("Play",), ("Play", "Pause "), ("Play", "Stop")):
-        voice.record(4 if then[-1:] == ("Pause ",) else 0.2, *then)  # long enough to be still played at the pause
+        long = len(then) == 2  # so that it is still played at the second press
+        voice.record(4 if long else 0.2, *then)
         if then and then[-1].startswith("Pause"):
             tour.find("label", "Paused")
         voice.close("Cancel")
